@@ -1,0 +1,6 @@
+#include "guard/config.h"
+
+StayholdConfig& AppConfig() {
+  static StayholdConfig config;
+  return config;
+}

@@ -1,0 +1,48 @@
+// The user's configuration as plain records: the global switch, language, skin, UI profile and the
+// behaviour profiles with their weekly restart windows. Times of day are minutes since local
+// midnight; days count from Monday as 0.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+struct RestartWindow {
+  bool enabled = true;
+  int32_t day = 0;            // 0 Monday .. 6 Sunday: the day the window starts
+  int32_t from_minute = 780;  // inclusive
+  int32_t to_minute = 1020;   // exclusive; not above from_minute means overnight
+};
+
+struct BehaviorProfile {
+  std::wstring name;
+  std::vector<RestartWindow> windows;
+};
+
+// One remembered control state of a dialog (its meaning arrives with the settings dialog).
+struct SavedControlState {
+  std::wstring id;
+  std::wstring value;
+};
+
+struct StayholdConfig {
+  bool guard_enabled = true;
+  std::wstring language = L"auto";
+  std::wstring skin_id = L"win11-auto";
+  std::wstring ui_performance_profile = L"balanced";
+  int32_t active_profile_index = 0;
+  std::vector<BehaviorProfile> profiles;
+
+  bool has_settings_ui_state = false;
+  int32_t settings_x = 0;
+  int32_t settings_y = 0;
+  int32_t settings_width = 0;
+  int32_t settings_height = 0;
+  int32_t show_command = 1;
+  bool maximized = false;
+  bool restore_to_maximized = false;  // always reset by normalization
+  std::vector<SavedControlState> control_states;
+};
+
+// The process-wide configuration; exists with its defaults from the first instruction.
+StayholdConfig& AppConfig();

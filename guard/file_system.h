@@ -1,0 +1,26 @@
+// What the path logic needs of the platform: the executable's location, known folders, the
+// temporary folder, absolute paths, file tests and the shell's "open".
+#pragma once
+
+#include <string>
+
+enum class KnownFolder { LocalAppData, Startup, CommonPrograms, Desktop };
+
+// The raw module file name (GetModuleFileNameW into 260 characters): `copied` is the call's result.
+struct ModuleFileName {
+  std::wstring text;
+  unsigned copied = 0;
+};
+ModuleFileName ReadModuleFileName();
+
+bool KnownFolderPath(KnownFolder folder, std::wstring& out);  // created when missing
+std::wstring TempFolder();                                    // GetTempPathW
+bool AbsolutePath(const std::wstring& path, std::wstring& out);
+bool IsRegularFile(const std::wstring& path);
+bool IsDirectory(const std::wstring& path);
+void CreateDirectoryTree(const std::wstring& path);  // errors ignored
+void ShellOpen(const std::wstring& path);             // verb "open", normal show state
+
+// The value InstallLocation under HKLM\`key` when it is REG_SZ or REG_EXPAND_SZ (not expanded) and
+// its first character is not zero; read into 260 characters.
+bool ReadInstallLocation(const wchar_t* key, std::wstring& out);

@@ -1,0 +1,87 @@
+#include <windows.h>
+#include <shellapi.h>
+#include <shlobj.h>
+#include <knownfolders.h>
+
+#include <filesystem>
+#include <system_error>
+
+#include "guard/file_system.h"
+
+ModuleFileName ReadModuleFileName() {
+  wchar_t buffer[MAX_PATH] = {};
+  ModuleFileName module;
+  module.copied = GetModuleFileNameW(nullptr, buffer, MAX_PATH);
+  module.text.assign(buffer, module.copied < MAX_PATH ? module.copied : MAX_PATH);
+  return module;
+}
+
+bool KnownFolderPath(KnownFolder folder, std::wstring& out) {
+  const KNOWNFOLDERID* id = &FOLDERID_LocalAppData;
+  switch (folder) {
+    case KnownFolder::LocalAppData: id = &FOLDERID_LocalAppData; break;
+    case KnownFolder::Startup: id = &FOLDERID_Startup; break;
+    case KnownFolder::CommonPrograms: id = &FOLDERID_CommonPrograms; break;
+    case KnownFolder::Desktop: id = &FOLDERID_Desktop; break;
+  }
+  PWSTR path = nullptr;
+  const HRESULT hr = SHGetKnownFolderPath(*id, KF_FLAG_CREATE, nullptr, &path);
+  const bool ok = SUCCEEDED(hr) && path != nullptr;
+  if (ok) out = path;
+  CoTaskMemFree(path);
+  return ok;
+}
+
+std::wstring TempFolder() {
+  wchar_t buffer[MAX_PATH + 1] = {};
+  const DWORD length = GetTempPathW(MAX_PATH + 1, buffer);
+  if (length == 0 || length > MAX_PATH) return std::wstring();
+  return std::wstring(buffer, length);
+}
+
+bool AbsolutePath(const std::wstring& path, std::wstring& out) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+  if (error) return false;
+  out = absolute.wstring();
+  return true;
+}
+
+bool IsRegularFile(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool IsDirectory(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+void CreateDirectoryTree(const std::wstring& path) {
+  std::error_code ignored;
+  std::filesystem::create_directories(path, ignored);
+}
+
+void ShellOpen(const std::wstring& path) {
+  ShellExecuteW(nullptr, L"open", path.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+}
+
+bool ReadInstallLocation(const wchar_t* key, std::wstring& out) {
+  HKEY handle = nullptr;
+  if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, key, 0, KEY_QUERY_VALUE, &handle) != ERROR_SUCCESS) {
+    return false;
+  }
+  wchar_t buffer[MAX_PATH] = {};
+  DWORD type = 0;
+  DWORD size = sizeof(buffer);
+  const LSTATUS status = RegQueryValueExW(handle, L"InstallLocation", nullptr, &type,
+                                          reinterpret_cast<BYTE*>(buffer), &size);
+  RegCloseKey(handle);
+  buffer[MAX_PATH - 1] = L'\0';
+  // An expandable value is taken as it stands, not expanded.
+  if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ) || buffer[0] == 0) {
+    return false;
+  }
+  out = buffer;
+  return true;
+}

@@ -1,0 +1,18 @@
+// Where the application is installed: InstallLocation from the product key, else from the
+// uninstall entry, else the default folder; always in one canonical form.
+#pragma once
+
+#include <string>
+
+inline constexpr wchar_t kProductKey[] = L"Software\\Marlowen\\Stayhold";
+inline constexpr wchar_t kUninstallKey[] =
+    L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Stayhold";
+
+std::wstring DefaultInstallFolder();  // C:\Program Files\Stayhold
+
+// Trimmed, forward slashes turned, absolute, lexically normal, without a trailing separator
+// except at a drive root. Empty text gives empty.
+std::wstring NormalizeInstallFolder(const std::wstring& text);
+
+// Never empty.
+std::wstring ResolveInstallFolder();

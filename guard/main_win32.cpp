@@ -1,0 +1,159 @@
+// The entry of both executables: reads the options, loads the configuration, and runs a one-shot
+// setup action, the setup dialog, or the guard with its hidden window and message loop.
+#include <windows.h>
+#include <shellapi.h>
+#include <shobjidl.h>
+
+#include <string>
+#include <vector>
+
+#include "guard/build_facts.h"
+#include "guard/config.h"
+#include "guard/hidden_window_win32.h"
+#include "guard/log.h"
+#include "guard/paths.h"
+#include "guard/startup_options.h"
+#include "i18n/localized.h"
+#include "setup/setup_actions.h"
+#include "tray/notice.h"
+
+namespace {
+
+std::wstring InstallDirFromArguments() {
+  int count = 0;
+  LPWSTR* argv = CommandLineToArgvW(GetCommandLineW(), &count);
+  if (!argv) return std::wstring();
+  std::vector<std::wstring> arguments(argv, argv + count);
+  LocalFree(argv);
+  return FindInstallDirArgument(arguments);
+}
+
+HICON LoadApplicationIcon(HINSTANCE instance, int size_metric_x, int size_metric_y) {
+  HICON icon = static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(kApplicationIconId),
+                                             IMAGE_ICON, GetSystemMetrics(size_metric_x),
+                                             GetSystemMetrics(size_metric_y), LR_SHARED));
+  return icon ? icon : LoadIconW(nullptr, IDI_APPLICATION);
+}
+
+int RunSetupAction(StartupRole role, const StartupOptions& options,
+                   const std::wstring& install_dir) {
+  switch (role) {
+    case StartupRole::Install: {
+      bool desktop = options.desktop;
+      bool startup = !options.no_startup;
+      if (options.preserve_options) {
+        // Read before anything changes.
+        desktop = IsDesktopShortcutPresent();
+        startup = IsStartupShortcutPresent();
+      }
+      const bool ok = RunInstall(startup, desktop, install_dir.empty() ? nullptr
+                                                                       : install_dir.c_str());
+      if (ok && options.restart_app) LaunchInstalledCopy(options.settings);
+      return ok ? kExitOk : kExitInstallFailed;
+    }
+    case StartupRole::Repair:
+      return RunRepair(IsStartupShortcutPresent(), IsDesktopShortcutPresent())
+                 ? kExitOk
+                 : kExitRepairFailed;
+    case StartupRole::Uninstall:
+      return RunUninstall();
+    default:
+      return kExitFailure;
+  }
+}
+
+int RunSecondInstance(HANDLE mutex, HINSTANCE instance) {
+  if (exit_after_ms > 0) {
+    // A self-limited run (tests, the setup's check) never disturbs the first instance.
+  } else if (open_settings_at_start) {
+    if (HWND first = FindWindowW(kHiddenWindowClass, nullptr)) {
+      PostMessageW(first, WM_COMMAND, 1006, 0);
+    }
+  } else {
+    ShowInstallerNotice(instance, Localized(L"Už běží", L"Already running"),
+                        Localized(L"Stayhold už běží v oznamovací oblasti.",
+                                  L"Stayhold is already running in the notification area."),
+                        false);
+    AppendLog(L"launch ignored: already running");
+  }
+  CloseHandle(mutex);
+  return kExitOk;
+}
+
+int RunGuard(HINSTANCE instance) {
+  HANDLE mutex = CreateMutexW(nullptr, TRUE, kSingleInstanceMutexName);
+  if (!mutex) return kExitFailure;
+  if (GetLastError() == ERROR_ALREADY_EXISTS) return RunSecondInstance(mutex, instance);
+
+  taskbar_created_message = RegisterWindowMessageW(kTaskbarCreatedMessageName);
+
+  WNDCLASSEXW window_class = {};
+  window_class.cbSize = sizeof(window_class);
+  window_class.lpfnWndProc = HiddenWindowProc;
+  window_class.hInstance = instance;
+  window_class.hIcon = LoadApplicationIcon(instance, SM_CXICON, SM_CYICON);
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window_class.lpszClassName = kHiddenWindowClass;
+  if (!RegisterClassExW(&window_class)) {
+    CloseHandle(mutex);
+    return kExitFailure;
+  }
+
+  // A real top-level window, never shown: Windows only asks top-level windows before a shutdown.
+  HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, kHiddenWindowClass, kHiddenWindowTitle, WS_POPUP,
+                                0, 0, 1, 1, nullptr, nullptr, instance, nullptr);
+  if (!window) {
+    AppendLog(L"app startup failed: hidden window creation failed");
+    CloseHandle(mutex);
+    return kExitFailure;
+  }
+  hidden_window = window;
+  SendMessageW(window, WM_SETICON, ICON_BIG,
+               reinterpret_cast<LPARAM>(LoadApplicationIcon(instance, SM_CXICON, SM_CYICON)));
+  SendMessageW(window, WM_SETICON, ICON_SMALL,
+               reinterpret_cast<LPARAM>(LoadApplicationIcon(instance, SM_CXSMICON, SM_CYSMICON)));
+
+  AppendLog(open_settings_at_start ? L"app startup -> open settings" : L"app startup");
+
+  MSG message = {};
+  BOOL result;
+  while ((result = GetMessageW(&message, nullptr, 0, 0)) > 0) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  CloseHandle(mutex);
+  return static_cast<int>(message.wParam);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR command_line, int) {
+  const StartupOptions options = ParseStartupOptions(command_line);
+  exit_after_ms = options.exit_after_ms;
+  AppConfig() = StayholdConfig();
+  open_settings_at_start = options.settings;
+  const std::wstring install_dir = InstallDirFromArguments();
+  SetCurrentProcessExplicitAppUserModelID(kAppUserModelId);
+
+  const StartupRole role = ChooseStartupRole(options, kIsSetupBuild);
+  switch (role) {
+    case StartupRole::Install:
+    case StartupRole::Repair:
+    case StartupRole::Uninstall:
+      return RunSetupAction(role, options, install_dir);
+    case StartupRole::RefuseSetupAction:
+      ShowInstallerNotice(instance, Localized(L"Použijte instalační program", L"Use the setup"),
+                          Localized(L"Instalaci, opravu a odinstalaci zajišťuje StayholdSetup.exe.",
+                                    L"Install, repair, and uninstall are handled by "
+                                    L"StayholdSetup.exe."),
+                          true);
+      return kExitInstallFailed;
+    case StartupRole::EnsureConfig:
+      return kExitFailure;
+    case StartupRole::SetupDialog:
+      return RunSetupDialog(instance);
+    case StartupRole::Guard:
+      break;
+  }
+  return RunGuard(instance);
+}

@@ -1,0 +1,14 @@
+// Small helpers over wide (UTF-16 on Windows) text that several subsystems share.
+#pragma once
+
+#include <string>
+
+// White space trimmed at both ends, by iswspace.
+std::wstring TrimWhiteSpace(const std::wstring& text);
+
+// UTF-8 of wide text. On 16-bit wchar_t, pairs of surrogates are combined and a lone surrogate
+// becomes U+FFFD, as WideCharToMultiByte does.
+std::string Utf8FromWide(const std::wstring& text);
+
+// Decimal digits of an unsigned value.
+std::wstring DecimalText(unsigned long long value);

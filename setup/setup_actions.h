@@ -1,0 +1,15 @@
+// The setup program's operations: install, repair, uninstall, the interactive dialog flow, and
+// starting the installed application. Each returns what decides the process's exit code.
+#pragma once
+
+#include <string>
+
+#include "guard/win32_types.h"
+
+bool RunInstall(bool start_with_windows, bool desktop_shortcut, const wchar_t* install_dir);
+bool RunRepair(bool start_with_windows, bool desktop_shortcut);
+int RunUninstall();
+int RunSetupDialog(InstanceHandle instance);
+
+// Starts the installed Stayhold.exe, with --settings when asked.
+void LaunchInstalledCopy(bool open_settings);

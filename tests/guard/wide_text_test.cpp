@@ -1,0 +1,45 @@
+#include "guard/wide_text.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::wstring FromUnits(std::initializer_list<unsigned> units) {
+  std::wstring text;
+  for (unsigned unit : units) text += static_cast<wchar_t>(unit);
+  return text;
+}
+
+TEST(Utf8FromWide, EncodesEveryRange) {
+  EXPECT_EQ(Utf8FromWide(L""), "");
+  EXPECT_EQ(Utf8FromWide(L"A~"), "A~");
+  EXPECT_EQ(Utf8FromWide(FromUnits({0xE9})), "\xC3\xA9");
+  EXPECT_EQ(Utf8FromWide(FromUnits({0x20AC})), "\xE2\x82\xAC");
+  EXPECT_EQ(Utf8FromWide(FromUnits({0xFFFF})), "\xEF\xBF\xBF");
+}
+
+TEST(Utf8FromWide, SurrogatesAsWindowsConvertsThem) {
+  if (sizeof(wchar_t) == 2) {
+    EXPECT_EQ(Utf8FromWide(FromUnits({0xD83D, 0xDE00})), "\xF0\x9F\x98\x80");  // emoji pair
+  } else {
+    EXPECT_EQ(Utf8FromWide(FromUnits({0x1F600})), "\xF0\x9F\x98\x80");
+  }
+  EXPECT_EQ(Utf8FromWide(FromUnits({0xD83D, 0x41})), "\xEF\xBF\xBD" "A");  // lone high
+  EXPECT_EQ(Utf8FromWide(FromUnits({0xDE00})), "\xEF\xBF\xBD");           // lone low
+  EXPECT_EQ(Utf8FromWide(FromUnits({0x41, 0xD83D})), "A\xEF\xBF\xBD");    // high at the end
+}
+
+TEST(TrimWhiteSpace, BothEnds) {
+  EXPECT_EQ(TrimWhiteSpace(L"  a b \t\r\n"), L"a b");
+  EXPECT_EQ(TrimWhiteSpace(L" \t "), L"");
+  EXPECT_EQ(TrimWhiteSpace(L""), L"");
+  EXPECT_EQ(TrimWhiteSpace(L"x"), L"x");
+}
+
+TEST(DecimalText, Digits) {
+  EXPECT_EQ(DecimalText(0), L"0");
+  EXPECT_EQ(DecimalText(600000), L"600000");
+  EXPECT_EQ(DecimalText(18446744073709551615ull), L"18446744073709551615");
+}
+
+}  // namespace

@@ -1,0 +1,22 @@
+#include <gtest/gtest.h>
+
+#include "guard/config.h"
+#include "tests/support/fake_platform.h"
+
+namespace {
+
+// Every test starts from a fresh platform and default configuration.
+class FreshState : public ::testing::EmptyTestEventListener {
+  void OnTestStart(const ::testing::TestInfo&) override {
+    ResetFakePlatform();
+    AppConfig() = StayholdConfig();
+  }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  ::testing::InitGoogleTest(&argc, argv);
+  ::testing::UnitTest::GetInstance()->listeners().Append(new FreshState);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,133 @@
+// A console helper that the scenario tests run inside Wine. Wine cuts exit codes to 8 bits on
+// the Linux side, and window lookups and messages need the Windows API, so this does both:
+//   wintool run TIMEOUT_MS EXE [ARGS...]        prints "exit=N" (full 32 bits) or "timeout"
+//   wintool find CLASS                          prints the window's facts; exit 1 when absent
+//   wintool send CLASS MSG WPARAM LPARAM [MS]   SendMessageTimeoutW; prints "result=N"
+//   wintool post CLASS MSG WPARAM LPARAM        PostMessageW
+//   wintool wait-gone CLASS TIMEOUT_MS          exit 0 once no window of the class exists
+#include <windows.h>
+
+#include <cstdio>
+#include <cwchar>
+#include <string>
+
+namespace {
+
+// Quoting that CommandLineToArgvW reads back to the same argument.
+std::wstring Quote(const std::wstring& argument) {
+  if (!argument.empty() && argument.find_first_of(L" \t\"") == std::wstring::npos) return argument;
+  std::wstring out = L"\"";
+  size_t backslashes = 0;
+  for (wchar_t c : argument) {
+    if (c == L'\\') {
+      ++backslashes;
+      continue;
+    }
+    if (c == L'"') out.append(backslashes * 2 + 1, L'\\');
+    else out.append(backslashes, L'\\');
+    backslashes = 0;
+    out += c;
+  }
+  out.append(backslashes * 2, L'\\');
+  return out + L"\"";
+}
+
+unsigned long Number(const wchar_t* text) { return std::wcstoul(text, nullptr, 0); }
+
+int Run(int argc, wchar_t** argv) {
+  if (argc < 4) return 2;
+  const DWORD timeout = static_cast<DWORD>(Number(argv[2]));
+  std::wstring command_line;
+  for (int i = 3; i < argc; ++i) {
+    if (i > 3) command_line += L' ';
+    command_line += Quote(argv[i]);
+  }
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof(startup);
+  PROCESS_INFORMATION process = {};
+  if (!CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                      &startup, &process)) {
+    std::wprintf(L"start-failed=%lu\n", GetLastError());
+    return 1;
+  }
+  CloseHandle(process.hThread);
+  if (WaitForSingleObject(process.hProcess, timeout) == WAIT_TIMEOUT) {
+    TerminateProcess(process.hProcess, 1);
+    CloseHandle(process.hProcess);
+    std::wprintf(L"timeout\n");
+    return 1;
+  }
+  DWORD code = 0;
+  GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hProcess);
+  std::wprintf(L"exit=%lu\n", code);
+  return 0;
+}
+
+int Find(const wchar_t* window_class) {
+  HWND window = FindWindowW(window_class, nullptr);
+  if (!window) {
+    std::wprintf(L"absent\n");
+    return 1;
+  }
+  wchar_t title[256] = {};
+  GetWindowTextW(window, title, 256);
+  RECT rect = {};
+  GetWindowRect(window, &rect);
+  const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
+  const LONG_PTR ex_style = GetWindowLongPtrW(window, GWL_EXSTYLE);
+  const bool top_level = GetAncestor(window, GA_PARENT) == GetDesktopWindow();
+  std::wprintf(L"title=%ls\nvisible=%d\ntop_level=%d\nowner=%d\nstyle=0x%08llx\n"
+               L"ex_style=0x%08llx\nsize=%ldx%ld\n",
+               title, IsWindowVisible(window) ? 1 : 0, top_level ? 1 : 0,
+               GetWindow(window, GW_OWNER) ? 1 : 0, static_cast<unsigned long long>(style),
+               static_cast<unsigned long long>(ex_style), rect.right - rect.left,
+               rect.bottom - rect.top);
+  return 0;
+}
+
+int Send(int argc, wchar_t** argv, bool post) {
+  if (argc < 6) return 2;
+  HWND window = FindWindowW(argv[2], nullptr);
+  if (!window) {
+    std::wprintf(L"absent\n");
+    return 1;
+  }
+  const UINT message = static_cast<UINT>(Number(argv[3]));
+  const WPARAM w_param = static_cast<WPARAM>(Number(argv[4]));
+  const LPARAM l_param = static_cast<LPARAM>(Number(argv[5]));
+  if (post) return PostMessageW(window, message, w_param, l_param) ? 0 : 1;
+  const UINT timeout = argc > 6 ? static_cast<UINT>(Number(argv[6])) : 5000;
+  DWORD_PTR result = 0;
+  if (!SendMessageTimeoutW(window, message, w_param, l_param, SMTO_ABORTIFHUNG, timeout,
+                           &result)) {
+    std::wprintf(L"send-failed=%lu\n", GetLastError());
+    return 1;
+  }
+  std::wprintf(L"result=%llu\n", static_cast<unsigned long long>(result));
+  return 0;
+}
+
+int WaitGone(const wchar_t* window_class, DWORD timeout) {
+  const ULONGLONG end = GetTickCount64() + timeout;
+  while (FindWindowW(window_class, nullptr)) {
+    if (GetTickCount64() > end) return 1;
+    Sleep(50);
+  }
+  return 0;
+}
+
+}  // namespace
+
+int wmain(int argc, wchar_t** argv) {
+  if (argc < 3) return 2;
+  const std::wstring verb = argv[1];
+  int result = 2;
+  if (verb == L"run") result = Run(argc, argv);
+  else if (verb == L"find") result = Find(argv[2]);
+  else if (verb == L"send") result = Send(argc, argv, false);
+  else if (verb == L"post") result = Send(argc, argv, true);
+  else if (verb == L"wait-gone" && argc > 3) result = WaitGone(argv[2], Number(argv[3]));
+  std::fflush(stdout);
+  return result;
+}
