@@ -18,13 +18,15 @@ void EvaluateBlocking(benchmark::State& state) {
   now.day_of_week = 3;
   now.hour = 23;
   now.minute = 59;
-  for (auto _ : state) benchmark::DoNotOptimize(EvaluateGuardStatusAt(config, now));
+  for (auto _ : state)
+    benchmark::DoNotOptimize(EvaluateGuardStatusAt(config, now));
 }
 BENCHMARK(EvaluateBlocking)->Arg(1)->Arg(16)->Arg(256);
 
 void FormatTooltip(benchmark::State& state) {
   GuardStatus status{true, false, true, L"Work", L"Friday 13:00-17:00"};
-  for (auto _ : state) benchmark::DoNotOptimize(FormatTrayTooltip(status));
+  for (auto _ : state)
+    benchmark::DoNotOptimize(FormatTrayTooltip(status));
 }
 BENCHMARK(FormatTooltip);
 

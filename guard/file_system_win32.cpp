@@ -19,10 +19,18 @@ ModuleFileName ReadModuleFileName() {
 bool KnownFolderPath(KnownFolder folder, std::wstring& out) {
   const KNOWNFOLDERID* id = &FOLDERID_LocalAppData;
   switch (folder) {
-    case KnownFolder::LocalAppData: id = &FOLDERID_LocalAppData; break;
-    case KnownFolder::Startup: id = &FOLDERID_Startup; break;
-    case KnownFolder::CommonPrograms: id = &FOLDERID_CommonPrograms; break;
-    case KnownFolder::Desktop: id = &FOLDERID_Desktop; break;
+    case KnownFolder::LocalAppData:
+      id = &FOLDERID_LocalAppData;
+      break;
+    case KnownFolder::Startup:
+      id = &FOLDERID_Startup;
+      break;
+    case KnownFolder::CommonPrograms:
+      id = &FOLDERID_CommonPrograms;
+      break;
+    case KnownFolder::Desktop:
+      id = &FOLDERID_Desktop;
+      break;
   }
   PWSTR path = nullptr;
   const HRESULT hr = SHGetKnownFolderPath(*id, KF_FLAG_CREATE, nullptr, &path);

@@ -18,12 +18,9 @@ std::wstring FormatMinutes(int minutes) {
   if (minutes > 1439) minutes = 1439;
   const int hours = minutes / 60;
   const int rest = minutes % 60;
-  const wchar_t text[] = {static_cast<wchar_t>(L'0' + hours / 10),
-                          static_cast<wchar_t>(L'0' + hours % 10),
-                          L':',
-                          static_cast<wchar_t>(L'0' + rest / 10),
-                          static_cast<wchar_t>(L'0' + rest % 10),
-                          L'\0'};
+  const wchar_t text[] = {
+      static_cast<wchar_t>(L'0' + hours / 10), static_cast<wchar_t>(L'0' + hours % 10), L':',
+      static_cast<wchar_t>(L'0' + rest / 10),  static_cast<wchar_t>(L'0' + rest % 10),  L'\0'};
   return text;
 }
 
@@ -69,6 +66,5 @@ std::wstring FormatTrayTooltip(const GuardStatus& status) {
     if (!status.window_label.empty()) text += L" - " + status.window_label;
     return text;
   }
-  return Localized(L"Stayhold: blokuje plánované restarty",
-                   L"Stayhold: blocking planned restarts");
+  return Localized(L"Stayhold: blokuje plánované restarty", L"Stayhold: blocking planned restarts");
 }

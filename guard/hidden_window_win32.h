@@ -13,10 +13,10 @@ extern HWND hidden_window;
 extern UINT taskbar_created_message;
 
 enum GuardTimer : UINT_PTR {
-  kTimerStart = 1,       // 500 ms after creation, once: protection starts
-  kTimerSelfExit = 2,    // the --exit-after-ms limit, once
-  kTimerRefresh = 3,     // every 30 s
-  kTimerUpdateCheck = 4, // every hour
+  kTimerStart = 1,        // 500 ms after creation, once: protection starts
+  kTimerSelfExit = 2,     // the --exit-after-ms limit, once
+  kTimerRefresh = 3,      // every 30 s
+  kTimerUpdateCheck = 4,  // every hour
 };
 
 LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPARAM l_param);

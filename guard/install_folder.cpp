@@ -4,7 +4,9 @@
 #include "guard/wide_text.h"
 #include "guard/win_path.h"
 
-std::wstring DefaultInstallFolder() { return L"C:\\Program Files\\Stayhold"; }
+std::wstring DefaultInstallFolder() {
+  return L"C:\\Program Files\\Stayhold";
+}
 
 std::wstring NormalizeInstallFolder(const std::wstring& text) {
   std::wstring path = TrimWhiteSpace(text);
@@ -15,7 +17,8 @@ std::wstring NormalizeInstallFolder(const std::wstring& text) {
   std::wstring absolute;
   if (AbsolutePath(path, absolute)) path = absolute;  // on error go on with the trimmed text
   path = LexicallyNormalPath(path);
-  while (path.size() > 3 && (path.back() == L'\\' || path.back() == L'/')) path.pop_back();
+  while (path.size() > 3 && (path.back() == L'\\' || path.back() == L'/'))
+    path.pop_back();
   return path;
 }
 

@@ -11,7 +11,8 @@ std::wstring TwoDigits(unsigned value) {
 
 std::wstring FourDigits(unsigned value) {
   std::wstring text = DecimalText(value);
-  while (text.size() < 4) text.insert(text.begin(), L'0');
+  while (text.size() < 4)
+    text.insert(text.begin(), L'0');
   return text;
 }
 

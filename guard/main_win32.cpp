@@ -46,15 +46,14 @@ int RunSetupAction(StartupRole role, const StartupOptions& options,
         desktop = IsDesktopShortcutPresent();
         startup = IsStartupShortcutPresent();
       }
-      const bool ok = RunInstall(startup, desktop, install_dir.empty() ? nullptr
-                                                                       : install_dir.c_str());
+      const bool ok =
+          RunInstall(startup, desktop, install_dir.empty() ? nullptr : install_dir.c_str());
       if (ok && options.restart_app) LaunchInstalledCopy(options.settings);
       return ok ? kExitOk : kExitInstallFailed;
     }
     case StartupRole::Repair:
-      return RunRepair(IsStartupShortcutPresent(), IsDesktopShortcutPresent())
-                 ? kExitOk
-                 : kExitRepairFailed;
+      return RunRepair(IsStartupShortcutPresent(), IsDesktopShortcutPresent()) ? kExitOk
+                                                                               : kExitRepairFailed;
     case StartupRole::Uninstall:
       return RunUninstall();
     default:

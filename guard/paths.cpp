@@ -21,18 +21,30 @@ std::wstring DataDirectory() {
   return JoinPath(TempFolder(), L"Stayhold");
 }
 
-std::wstring ConfigFilePath() { return JoinPath(DataDirectory(), L"config.ini"); }
-std::wstring LogDirectory() { return JoinPath(DataDirectory(), L"logs"); }
-std::wstring LogFilePath() { return JoinPath(LogDirectory(), L"stayhold.log"); }
+std::wstring ConfigFilePath() {
+  return JoinPath(DataDirectory(), L"config.ini");
+}
+std::wstring LogDirectory() {
+  return JoinPath(DataDirectory(), L"logs");
+}
+std::wstring LogFilePath() {
+  return JoinPath(LogDirectory(), L"stayhold.log");
+}
 
 std::wstring ExecutableDirectory() {
   const ModuleFileName module = ReadModuleFileName();
   return ModuleFolderFromFileName(module.text, module.copied, 260);
 }
 
-std::wstring SkinsDirectory() { return JoinPath(ExecutableDirectory(), L"skins"); }
-std::wstring AssetsDirectory() { return JoinPath(ExecutableDirectory(), L"assets"); }
-std::wstring SkinGuidePath() { return JoinPath(SkinsDirectory(), kSkinGuideName); }
+std::wstring SkinsDirectory() {
+  return JoinPath(ExecutableDirectory(), L"skins");
+}
+std::wstring AssetsDirectory() {
+  return JoinPath(ExecutableDirectory(), L"assets");
+}
+std::wstring SkinGuidePath() {
+  return JoinPath(SkinsDirectory(), kSkinGuideName);
+}
 
 std::wstring InstalledSkinsDirectory() {
   InstallPaths paths;
@@ -74,5 +86,9 @@ bool ShortcutPresent(std::wstring InstallPaths::*member) {
 
 }  // namespace
 
-bool IsDesktopShortcutPresent() { return ShortcutPresent(&InstallPaths::desktop_shortcut); }
-bool IsStartupShortcutPresent() { return ShortcutPresent(&InstallPaths::startup_shortcut); }
+bool IsDesktopShortcutPresent() {
+  return ShortcutPresent(&InstallPaths::desktop_shortcut);
+}
+bool IsStartupShortcutPresent() {
+  return ShortcutPresent(&InstallPaths::startup_shortcut);
+}

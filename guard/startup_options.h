@@ -33,12 +33,12 @@ std::wstring FindInstallDirArgument(const std::vector<std::wstring>& arguments);
 
 // What the process does, in the order the checks run; the first that matches wins.
 enum class StartupRole {
-  Install,           // setup: --install (also matched by --install-dir)
-  Repair,            // setup: --repair
-  Uninstall,         // setup: --uninstall
-  RefuseSetupAction, // application: a setup option, exit code 4
-  EnsureConfig,      // application: --ensure-config
-  SetupDialog,       // setup without a self-exit limit
+  Install,            // setup: --install (also matched by --install-dir)
+  Repair,             // setup: --repair
+  Uninstall,          // setup: --uninstall
+  RefuseSetupAction,  // application: a setup option, exit code 4
+  EnsureConfig,       // application: --ensure-config
+  SetupDialog,        // setup without a self-exit limit
   Guard,
 };
 

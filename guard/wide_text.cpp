@@ -5,8 +5,10 @@
 std::wstring TrimWhiteSpace(const std::wstring& text) {
   size_t begin = 0;
   size_t end = text.size();
-  while (begin < end && std::iswspace(static_cast<wint_t>(text[begin]))) ++begin;
-  while (end > begin && std::iswspace(static_cast<wint_t>(text[end - 1]))) --end;
+  while (begin < end && std::iswspace(static_cast<wint_t>(text[begin])))
+    ++begin;
+  while (end > begin && std::iswspace(static_cast<wint_t>(text[end - 1])))
+    --end;
   return text.substr(begin, end - begin);
 }
 
@@ -30,8 +32,12 @@ void AppendUtf8(std::string& out, char32_t code) {
   }
 }
 
-bool IsHighSurrogate(char32_t c) { return c >= 0xD800 && c <= 0xDBFF; }
-bool IsLowSurrogate(char32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
+bool IsHighSurrogate(char32_t c) {
+  return c >= 0xD800 && c <= 0xDBFF;
+}
+bool IsLowSurrogate(char32_t c) {
+  return c >= 0xDC00 && c <= 0xDFFF;
+}
 
 }  // namespace
 

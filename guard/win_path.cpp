@@ -4,9 +4,13 @@
 
 namespace {
 
-bool IsSeparator(wchar_t c) { return c == L'\\' || c == L'/'; }
+bool IsSeparator(wchar_t c) {
+  return c == L'\\' || c == L'/';
+}
 
-bool IsDriveLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
+bool IsDriveLetter(wchar_t c) {
+  return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z');
+}
 
 // Length of the root part: "C:\" (3), "C:" (2), "\\server\share\" or "\" (1); 0 for relative.
 size_t RootLength(const std::wstring& path, bool& absolute) {
@@ -22,7 +26,8 @@ size_t RootLength(const std::wstring& path, bool& absolute) {
     // UNC: two leading separators, server, share.
     size_t i = 2;
     for (int part = 0; part < 2; ++part) {
-      while (i < path.size() && !IsSeparator(path[i])) ++i;
+      while (i < path.size() && !IsSeparator(path[i]))
+        ++i;
       if (i < path.size()) ++i;
     }
     absolute = true;
@@ -56,7 +61,8 @@ std::wstring LexicallyNormalPath(const std::wstring& path) {
   size_t i = root_length;
   while (i <= path.size()) {
     size_t j = i;
-    while (j < path.size() && !IsSeparator(path[j])) ++j;
+    while (j < path.size() && !IsSeparator(path[j]))
+      ++j;
     std::wstring part = path.substr(i, j - i);
     if (part.empty() || part == L".") {
       // skipped

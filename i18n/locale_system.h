@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <string>
 
-inline constexpr uint32_t kLocaleDayName1 = 42;               // LOCALE_SDAYNAME1, Monday
-inline constexpr uint32_t kLocaleNativeDisplayName = 0x73;    // LOCALE_SNATIVEDISPLAYNAME
-inline constexpr uint32_t kLocaleEnglishDisplayName = 0x72;   // LOCALE_SENGLISHDISPLAYNAME
+inline constexpr uint32_t kLocaleDayName1 = 42;              // LOCALE_SDAYNAME1, Monday
+inline constexpr uint32_t kLocaleNativeDisplayName = 0x73;   // LOCALE_SNATIVEDISPLAYNAME
+inline constexpr uint32_t kLocaleEnglishDisplayName = 0x72;  // LOCALE_SENGLISHDISPLAYNAME
 
 // The locale name of the user's default UI language; empty when Windows gives none.
 std::wstring SystemUiLocaleName();

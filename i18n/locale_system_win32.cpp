@@ -4,7 +4,8 @@
 
 std::wstring SystemUiLocaleName() {
   wchar_t buffer[LOCALE_NAME_MAX_LENGTH] = {};
-  const int length = LCIDToLocaleName(GetUserDefaultUILanguage(), buffer, LOCALE_NAME_MAX_LENGTH, 0);
+  const int length =
+      LCIDToLocaleName(GetUserDefaultUILanguage(), buffer, LOCALE_NAME_MAX_LENGTH, 0);
   return length > 0 ? std::wstring(buffer) : std::wstring();
 }
 

@@ -33,13 +33,29 @@ bool ComputeInstallPaths(const std::wstring& folder, InstallPaths& paths) {
   p.legacy_app_dir = JoinPath(p.legacy_app_root, L"Stayhold");
   p.legacy_app_exe = JoinPath(p.legacy_app_dir, L"Stayhold.exe");
 
-  for (const std::wstring* member :
-       {&p.local_app_data, &p.program_files, &p.install_dir, &p.app_exe, &p.setup_exe,
-        &p.skins_dir, &p.assets_dir, &p.startup_dir, &p.common_programs, &p.desktop_dir,
-        &p.start_menu_dir, &p.start_menu_subdir, &p.startup_shortcut, &p.start_menu_shortcut,
-        &p.desktop_shortcut, &p.legacy_menu_dir, &p.legacy_menu_shortcut,
-        &p.legacy_root_shortcut, &p.legacy_quill_dir, &p.legacy_quill_shortcut,
-        &p.legacy_app_root, &p.legacy_app_dir, &p.legacy_app_exe}) {
+  for (const std::wstring* member : {&p.local_app_data,
+                                     &p.program_files,
+                                     &p.install_dir,
+                                     &p.app_exe,
+                                     &p.setup_exe,
+                                     &p.skins_dir,
+                                     &p.assets_dir,
+                                     &p.startup_dir,
+                                     &p.common_programs,
+                                     &p.desktop_dir,
+                                     &p.start_menu_dir,
+                                     &p.start_menu_subdir,
+                                     &p.startup_shortcut,
+                                     &p.start_menu_shortcut,
+                                     &p.desktop_shortcut,
+                                     &p.legacy_menu_dir,
+                                     &p.legacy_menu_shortcut,
+                                     &p.legacy_root_shortcut,
+                                     &p.legacy_quill_dir,
+                                     &p.legacy_quill_shortcut,
+                                     &p.legacy_app_root,
+                                     &p.legacy_app_dir,
+                                     &p.legacy_app_exe}) {
     if (member->size() >= kMaxPathChars) return false;
   }
   paths = std::move(p);

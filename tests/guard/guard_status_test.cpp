@@ -44,14 +44,12 @@ const MatchCase kMatchCases[] = {
      true},
     {"end minute is outside", Window(Thursday, 13, 0, 17, 0), At(Thu, 17, 0), false},
     {"right time, wrong day", Window(Thursday, 13, 0, 17, 0), At(Fri, 14, 0), false},
-    {"disabled window never matches", Window(Thursday, 13, 0, 17, 0, false), At(Thu, 14, 0),
-     false},
+    {"disabled window never matches", Window(Thursday, 13, 0, 17, 0, false), At(Thu, 14, 0), false},
     {"overnight head on its own day", Window(Friday, 22, 0, 2, 0), At(Fri, 23, 0), true},
     {"overnight tail on the next day", Window(Friday, 22, 0, 2, 0), At(Sat, 1, 59), true},
     {"overnight tail ends at its end minute", Window(Friday, 22, 0, 2, 0), At(Sat, 2, 0), false},
     {"overnight head does not start early", Window(Friday, 22, 0, 2, 0), At(Fri, 21, 59), false},
-    {"overnight tail of Sunday falls on Monday", Window(Sunday, 23, 0, 1, 0), At(Mon, 0, 30),
-     true},
+    {"overnight tail of Sunday falls on Monday", Window(Sunday, 23, 0, 1, 0), At(Mon, 0, 30), true},
     {"Monday night is not Sunday's tail", Window(Sunday, 23, 0, 1, 0), At(Mon, 23, 30), false},
     {"Sunday head", Window(Sunday, 23, 0, 1, 0), At(Sun, 23, 30), true},
     {"Saturday's tail on Sunday", Window(Saturday, 23, 0, 1, 0), At(Sun, 0, 10), true},
@@ -61,8 +59,8 @@ const MatchCase kMatchCases[] = {
     {"equal ends: still open next day before the start", Window(Friday, 13, 0, 13, 0),
      At(Sat, 12, 59), true},
     {"equal ends: closed after 24 hours", Window(Friday, 13, 0, 13, 0), At(Sat, 13, 0), false},
-    {"midnight to midnight covers all of Sunday (start)", Window(Sunday, 0, 0, 0, 0),
-     At(Sun, 0, 0), true},
+    {"midnight to midnight covers all of Sunday (start)", Window(Sunday, 0, 0, 0, 0), At(Sun, 0, 0),
+     true},
     {"midnight to midnight covers all of Sunday (end)", Window(Sunday, 0, 0, 0, 0),
      At(Sun, 23, 59, 59), true},
     {"midnight to midnight does not reach Monday", Window(Sunday, 0, 0, 0, 0), At(Mon, 0, 0),
@@ -120,7 +118,7 @@ TEST(EvaluateGuardStatus, OvernightMatchThroughYesterdayCarriesItsLabel) {
 
 TEST(EvaluateGuardStatus, FirstStoredMatchGivesTheLabel) {
   const StayholdConfig config = WithWindows({
-      Window(Wednesday, 8, 0, 9, 0),   // does not match
+      Window(Wednesday, 8, 0, 9, 0),  // does not match
       Window(Wednesday, 10, 0, 12, 0, false),
       Window(Wednesday, 11, 0, 18, 0),  // first enabled match
       Window(Wednesday, 9, 0, 20, 0),
@@ -173,12 +171,12 @@ TEST(EvaluateGuardStatus, OnlyThreeCombinationsExist) {
     for (int hour = 0; hour < 24; ++hour) {
       for (WinDay day : {Sun, Thu}) {
         const GuardStatus s = EvaluateGuardStatusAt(config, At(day, hour, 0));
-        const bool off = !s.guard_enabled && !s.blocking && !s.in_restart_window &&
-                         s.window_label.empty();
-        const bool blocking = s.guard_enabled && s.blocking && !s.in_restart_window &&
-                              s.window_label.empty();
-        const bool window = s.guard_enabled && !s.blocking && s.in_restart_window &&
-                            !s.window_label.empty();
+        const bool off =
+            !s.guard_enabled && !s.blocking && !s.in_restart_window && s.window_label.empty();
+        const bool blocking =
+            s.guard_enabled && s.blocking && !s.in_restart_window && s.window_label.empty();
+        const bool window =
+            s.guard_enabled && !s.blocking && s.in_restart_window && !s.window_label.empty();
         EXPECT_EQ(off + blocking + window, 1) << "day " << day << " hour " << hour;
       }
     }

@@ -12,10 +12,11 @@ TEST(FormatMinutes, PadsAndClamps) {
     int minutes;
     const wchar_t* text;
   } cases[] = {
-      {0, L"00:00"}, {5, L"00:05"},     {60, L"01:00"},     {780, L"13:00"},
+      {0, L"00:00"},    {5, L"00:05"},    {60, L"01:00"},    {780, L"13:00"},
       {1439, L"23:59"}, {1440, L"23:59"}, {99999, L"23:59"}, {-1, L"00:00"},
   };
-  for (const auto& c : cases) EXPECT_EQ(FormatMinutes(c.minutes), c.text) << c.minutes;
+  for (const auto& c : cases)
+    EXPECT_EQ(FormatMinutes(c.minutes), c.text) << c.minutes;
 }
 
 TEST(ProfileDisplayName, TrimsOrFallsBackToNumberedName) {
@@ -24,12 +25,8 @@ TEST(ProfileDisplayName, TrimsOrFallsBackToNumberedName) {
     int index;
     const wchar_t* shown;
   } cases[] = {
-      {L"Work week", 0, L"Work week"},
-      {L"  Night \t", 4, L"Night"},
-      {L"", 0, L"Profile 1"},
-      {L"   ", 1, L"Profile 2"},
-      {L"\t\n", 7, L"Profile 8"},
-      {L"", -5, L"Profile 1"},
+      {L"Work week", 0, L"Work week"}, {L"  Night \t", 4, L"Night"}, {L"", 0, L"Profile 1"},
+      {L"   ", 1, L"Profile 2"},       {L"\t\n", 7, L"Profile 8"},   {L"", -5, L"Profile 1"},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(ProfileDisplayName(BehaviorProfile{c.name, {}}, c.index), c.shown) << c.index;
@@ -68,7 +65,8 @@ TEST(FormatWindowLabel, MarksOvernightWindows) {
       {{true, 6, 0, 0}, L"Sunday 00:00-00:00 (overnight)"},
       {{false, 0, 1439, 1438}, L"Monday 23:59-23:58 (overnight)"},
   };
-  for (const auto& c : cases) EXPECT_EQ(FormatWindowLabel(c.window), c.label);
+  for (const auto& c : cases)
+    EXPECT_EQ(FormatWindowLabel(c.window), c.label);
 }
 
 TEST(FormatWindowLabel, OvernightSuffixIsLocalized) {
@@ -76,9 +74,15 @@ TEST(FormatWindowLabel, OvernightSuffixIsLocalized) {
   EXPECT_EQ(FormatWindowLabel({true, 6, 1380, 60}), L"neděle 23:00-01:00 (přes noc)");
 }
 
-GuardStatus Off() { return GuardStatus{false, false, false, L"P", L""}; }
-GuardStatus Blocking() { return GuardStatus{true, true, false, L"P", L""}; }
-GuardStatus InWindow(const wchar_t* label) { return GuardStatus{true, false, true, L"P", label}; }
+GuardStatus Off() {
+  return GuardStatus{false, false, false, L"P", L""};
+}
+GuardStatus Blocking() {
+  return GuardStatus{true, true, false, L"P", L""};
+}
+GuardStatus InWindow(const wchar_t* label) {
+  return GuardStatus{true, false, true, L"P", label};
+}
 
 TEST(FormatGuardStatus, OneLinePerState) {
   const struct {

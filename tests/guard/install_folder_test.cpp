@@ -24,7 +24,8 @@ TEST(NormalizeInstallFolder, OneCanonicalForm) {
       {L"", L""},
       {L" \t ", L""},
   };
-  for (const auto& c : cases) EXPECT_EQ(NormalizeInstallFolder(c.in), c.out) << c.in;
+  for (const auto& c : cases)
+    EXPECT_EQ(NormalizeInstallFolder(c.in), c.out) << c.in;
 }
 
 TEST(NormalizeInstallFolder, FailedAbsolutePathGoesOnWithTheTrimmedText) {

@@ -72,8 +72,11 @@ TEST(OpenSkinGuide, PrefersTheGuideBesideTheExecutable) {
   } cases[] = {
       {"guide beside the executable", {beside, installed}, {}, beside, false},
       {"installed guide", {installed}, {}, installed, false},
-      {"skin folder beside the executable", {}, {L"C:\\Apps\\Stayhold\\skins"},
-       L"C:\\Apps\\Stayhold\\skins", true},
+      {"skin folder beside the executable",
+       {},
+       {L"C:\\Apps\\Stayhold\\skins"},
+       L"C:\\Apps\\Stayhold\\skins",
+       true},
       {"installed skin folder, created", {}, {}, L"C:\\Program Files\\Stayhold\\skins", true},
   };
   for (const auto& c : cases) {

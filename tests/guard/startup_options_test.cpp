@@ -67,16 +67,19 @@ TEST(FindInstallDirArgument, ReadsTheArgumentAfterTheOption) {
       {"plain", {L"setup.exe", L"--install-dir", L"C:\\X"}, L"C:\\X"},
       {"case-insensitive", {L"setup.exe", L"--install", L"--INSTALL-DIR", L"D:\\Y"}, L"D:\\Y"},
       {"value starting with -- is ignored",
-       {L"setup.exe", L"--install", L"--install-dir", L"--quiet"}, L""},
+       {L"setup.exe", L"--install", L"--install-dir", L"--quiet"},
+       L""},
       {"first match ends the search",
-       {L"setup.exe", L"--install-dir", L"--x", L"--install-dir", L"E:\\Z"}, L""},
+       {L"setup.exe", L"--install-dir", L"--x", L"--install-dir", L"E:\\Z"},
+       L""},
       {"option as the last argument", {L"setup.exe", L"--install", L"--install-dir"}, L""},
       {"fewer than three arguments", {L"setup.exe", L"--install-dir"}, L""},
       {"argument 0 is not searched", {L"--install-dir", L"C:\\A", L"B"}, L""},
       {"a value with -- inside", {L"s", L"--install-dir", L"C:\\a--b"}, L"C:\\a--b"},
       {"single dash value", {L"s", L"--install-dir", L"-x"}, L"-x"},
   };
-  for (const auto& c : cases) EXPECT_EQ(FindInstallDirArgument(c.arguments), c.folder) << c.what;
+  for (const auto& c : cases)
+    EXPECT_EQ(FindInstallDirArgument(c.arguments), c.folder) << c.what;
 }
 
 TEST(ChooseStartupRole, ChecksRunInTheirFixedOrder) {

@@ -6,7 +6,8 @@ namespace {
 
 std::wstring FromUnits(std::initializer_list<unsigned> units) {
   std::wstring text;
-  for (unsigned unit : units) text += static_cast<wchar_t>(unit);
+  for (unsigned unit : units)
+    text += static_cast<wchar_t>(unit);
   return text;
 }
 
@@ -24,9 +25,11 @@ TEST(Utf8FromWide, SurrogatesAsWindowsConvertsThem) {
   } else {
     EXPECT_EQ(Utf8FromWide(FromUnits({0x1F600})), "\xF0\x9F\x98\x80");
   }
-  EXPECT_EQ(Utf8FromWide(FromUnits({0xD83D, 0x41})), "\xEF\xBF\xBD" "A");  // lone high
-  EXPECT_EQ(Utf8FromWide(FromUnits({0xDE00})), "\xEF\xBF\xBD");           // lone low
-  EXPECT_EQ(Utf8FromWide(FromUnits({0x41, 0xD83D})), "A\xEF\xBF\xBD");    // high at the end
+  EXPECT_EQ(Utf8FromWide(FromUnits({0xD83D, 0x41})),
+            "\xEF\xBF\xBD"
+            "A");                                                       // lone high
+  EXPECT_EQ(Utf8FromWide(FromUnits({0xDE00})), "\xEF\xBF\xBD");         // lone low
+  EXPECT_EQ(Utf8FromWide(FromUnits({0x41, 0xD83D})), "A\xEF\xBF\xBD");  // high at the end
 }
 
 TEST(TrimWhiteSpace, BothEnds) {

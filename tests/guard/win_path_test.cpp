@@ -21,7 +21,8 @@ TEST(LexicallyNormalPath, ResolvesDotsWithoutClimbingAboveTheRoot) {
       {L"a\\..\\..\\b", L"..\\b"},
       {L"a\\..", L"."},
   };
-  for (const auto& c : cases) EXPECT_EQ(LexicallyNormalPath(c.in), c.out) << c.in;
+  for (const auto& c : cases)
+    EXPECT_EQ(LexicallyNormalPath(c.in), c.out) << c.in;
 }
 
 TEST(JoinPath, OneSeparatorBetween) {

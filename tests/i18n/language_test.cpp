@@ -18,9 +18,10 @@ TEST(PrimarySubtag, NorwegianVariantsShareOneFamily) {
   const struct {
     const wchar_t* in;
     const wchar_t* out;
-  } cases[] = {{L"nb-NO", L"no"}, {L"nn_NO", L"no"}, {L"NB", L"no"}, {L"zh-HK", L"zh"},
-               {L"chr-CHER-US", L"chr"}, {L"", L""}, {L"-x", L""}};
-  for (const auto& c : cases) EXPECT_EQ(PrimarySubtag(c.in), c.out) << c.in;
+  } cases[] = {{L"nb-NO", L"no"},        {L"nn_NO", L"no"}, {L"NB", L"no"}, {L"zh-HK", L"zh"},
+               {L"chr-CHER-US", L"chr"}, {L"", L""},        {L"-x", L""}};
+  for (const auto& c : cases)
+    EXPECT_EQ(PrimarySubtag(c.in), c.out) << c.in;
 }
 
 TEST(NormalizeLanguageSetting, FirstMatchInTableOrder) {
@@ -54,7 +55,8 @@ TEST(NormalizeLanguageSetting, FirstMatchInTableOrder) {
       {L"qu", L"quz-PE"},
       {L"quz", L"quz-PE"},
   };
-  for (const auto& c : cases) EXPECT_EQ(NormalizeLanguageSetting(c.in), c.out) << c.in;
+  for (const auto& c : cases)
+    EXPECT_EQ(NormalizeLanguageSetting(c.in), c.out) << c.in;
 }
 
 TEST(CurrentLanguageIndex, SettingThenWindowsThenEnglish) {
@@ -119,11 +121,8 @@ TEST(Localized, CzechInCzechEnglishElsewhere) {
     const wchar_t* windows;
     const wchar_t* expected;
   } cases[] = {
-      {L"cs-CZ", L"en-US", L"Ahoj"},
-      {L"auto", L"cs-CZ", L"Ahoj"},
-      {L"de-DE", L"cs-CZ", L"Hello"},
-      {L"auto", L"en-GB", L"Hello"},
-      {L"xx", L"xx-YY", L"Hello"},
+      {L"cs-CZ", L"en-US", L"Ahoj"}, {L"auto", L"cs-CZ", L"Ahoj"}, {L"de-DE", L"cs-CZ", L"Hello"},
+      {L"auto", L"en-GB", L"Hello"}, {L"xx", L"xx-YY", L"Hello"},
   };
   for (const auto& c : cases) {
     AppConfig().language = c.setting;

@@ -10,11 +10,17 @@ FakePlatform& Fake() {
   return platform;
 }
 
-void ResetFakePlatform() { Fake() = FakePlatform(); }
+void ResetFakePlatform() {
+  Fake() = FakePlatform();
+}
 
-LocalTime CurrentLocalTime() { return Fake().now; }
+LocalTime CurrentLocalTime() {
+  return Fake().now;
+}
 
-ModuleFileName ReadModuleFileName() { return Fake().module; }
+ModuleFileName ReadModuleFileName() {
+  return Fake().module;
+}
 
 bool KnownFolderPath(KnownFolder folder, std::wstring& out) {
   auto found = Fake().known_folders.find(folder);
@@ -23,7 +29,9 @@ bool KnownFolderPath(KnownFolder folder, std::wstring& out) {
   return true;
 }
 
-std::wstring TempFolder() { return Fake().temp_folder; }
+std::wstring TempFolder() {
+  return Fake().temp_folder;
+}
 
 bool AbsolutePath(const std::wstring& path, std::wstring& out) {
   // Enough of Windows' rule for tests: drive-absolute and UNC paths stand, others join the
@@ -41,15 +49,21 @@ bool AbsolutePath(const std::wstring& path, std::wstring& out) {
   return true;
 }
 
-bool IsRegularFile(const std::wstring& path) { return Fake().files.count(path) > 0; }
-bool IsDirectory(const std::wstring& path) { return Fake().directories.count(path) > 0; }
+bool IsRegularFile(const std::wstring& path) {
+  return Fake().files.count(path) > 0;
+}
+bool IsDirectory(const std::wstring& path) {
+  return Fake().directories.count(path) > 0;
+}
 
 void CreateDirectoryTree(const std::wstring& path) {
   Fake().created_directories.push_back(path);
   Fake().directories.insert(path);
 }
 
-void ShellOpen(const std::wstring& path) { Fake().opened.push_back(path); }
+void ShellOpen(const std::wstring& path) {
+  Fake().opened.push_back(path);
+}
 
 bool ReadInstallLocation(const wchar_t* key, std::wstring& out) {
   auto found = Fake().install_locations.find(key);
@@ -58,12 +72,14 @@ bool ReadInstallLocation(const wchar_t* key, std::wstring& out) {
   return true;
 }
 
-std::wstring SystemUiLocaleName() { return Fake().ui_locale; }
+std::wstring SystemUiLocaleName() {
+  return Fake().ui_locale;
+}
 
 bool LocaleInfoText(const std::wstring& tag, uint32_t lctype, std::wstring& out) {
   static const std::map<std::wstring, std::vector<std::wstring>> kDayNames = {
-      {L"en-US", {L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday",
-                  L"Sunday"}},
+      {L"en-US",
+       {L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday", L"Sunday"}},
       {L"cs-CZ", {L"pondělí", L"úterý", L"středa", L"čtvrtek", L"pátek", L"sobota", L"neděle"}},
   };
   auto found = kDayNames.find(tag);
@@ -84,4 +100,6 @@ bool EqualsOrdinalIgnoreCase(const std::wstring& a, const std::wstring& b) {
   return true;
 }
 
-void AppendLog(const std::wstring& message) { Fake().log.push_back(message); }
+void AppendLog(const std::wstring& message) {
+  Fake().log.push_back(message);
+}

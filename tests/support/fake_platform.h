@@ -26,7 +26,7 @@ struct FakePlatform {
   std::set<std::wstring> files;
   std::set<std::wstring> directories;
   std::map<std::wstring, std::wstring> install_locations;  // registry key -> value
-  std::vector<std::wstring> opened;                         // ShellOpen calls
+  std::vector<std::wstring> opened;                        // ShellOpen calls
   std::vector<std::wstring> created_directories;
   std::vector<std::wstring> log;
 };

@@ -24,9 +24,9 @@ class InstallLocationTest : public ::testing::Test {
     ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, key, 0, nullptr, 0, KEY_SET_VALUE, nullptr,
                               &handle, nullptr),
               ERROR_SUCCESS);
-    ASSERT_EQ(RegSetValueExW(handle, L"InstallLocation", 0, type,
-                             static_cast<const BYTE*>(data), size),
-              ERROR_SUCCESS);
+    ASSERT_EQ(
+        RegSetValueExW(handle, L"InstallLocation", 0, type, static_cast<const BYTE*>(data), size),
+        ERROR_SUCCESS);
     RegCloseKey(handle);
   }
 

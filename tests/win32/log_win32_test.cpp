@@ -27,7 +27,9 @@ TEST(AppendLog, RecreatesTheFolderAndAppendsLines) {
   const std::string text = ReadAll(LogFilePath());
   ASSERT_FALSE(text.empty());
   EXPECT_NE(text.find("  first line\n"), std::string::npos);
-  EXPECT_NE(text.find("  druh\xC3\xA1 \xC5\x99\xC3\xA1""dka\n"), std::string::npos);
+  EXPECT_NE(text.find("  druh\xC3\xA1 \xC5\x99\xC3\xA1"
+                      "dka\n"),
+            std::string::npos);
   EXPECT_EQ(text.find('\r'), std::string::npos);
   EXPECT_NE(text.compare(0, 3, "\xEF\xBB\xBF"), 0);  // no byte order mark
   EXPECT_LT(text.find("first line"), text.find("druh"));

@@ -23,8 +23,10 @@ std::wstring Quote(const std::wstring& argument) {
       ++backslashes;
       continue;
     }
-    if (c == L'"') out.append(backslashes * 2 + 1, L'\\');
-    else out.append(backslashes, L'\\');
+    if (c == L'"')
+      out.append(backslashes * 2 + 1, L'\\');
+    else
+      out.append(backslashes, L'\\');
     backslashes = 0;
     out += c;
   }
@@ -32,7 +34,9 @@ std::wstring Quote(const std::wstring& argument) {
   return out + L"\"";
 }
 
-unsigned long Number(const wchar_t* text) { return std::wcstoul(text, nullptr, 0); }
+unsigned long Number(const wchar_t* text) {
+  return std::wcstoul(text, nullptr, 0);
+}
 
 int Run(int argc, wchar_t** argv) {
   if (argc < 4) return 2;
@@ -77,12 +81,12 @@ int Find(const wchar_t* window_class) {
   const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
   const LONG_PTR ex_style = GetWindowLongPtrW(window, GWL_EXSTYLE);
   const bool top_level = GetAncestor(window, GA_PARENT) == GetDesktopWindow();
-  std::wprintf(L"title=%ls\nvisible=%d\ntop_level=%d\nowner=%d\nstyle=0x%08llx\n"
-               L"ex_style=0x%08llx\nsize=%ldx%ld\n",
-               title, IsWindowVisible(window) ? 1 : 0, top_level ? 1 : 0,
-               GetWindow(window, GW_OWNER) ? 1 : 0, static_cast<unsigned long long>(style),
-               static_cast<unsigned long long>(ex_style), rect.right - rect.left,
-               rect.bottom - rect.top);
+  std::wprintf(
+      L"title=%ls\nvisible=%d\ntop_level=%d\nowner=%d\nstyle=0x%08llx\n"
+      L"ex_style=0x%08llx\nsize=%ldx%ld\n",
+      title, IsWindowVisible(window) ? 1 : 0, top_level ? 1 : 0,
+      GetWindow(window, GW_OWNER) ? 1 : 0, static_cast<unsigned long long>(style),
+      static_cast<unsigned long long>(ex_style), rect.right - rect.left, rect.bottom - rect.top);
   return 0;
 }
 
@@ -99,8 +103,7 @@ int Send(int argc, wchar_t** argv, bool post) {
   if (post) return PostMessageW(window, message, w_param, l_param) ? 0 : 1;
   const UINT timeout = argc > 6 ? static_cast<UINT>(Number(argv[6])) : 5000;
   DWORD_PTR result = 0;
-  if (!SendMessageTimeoutW(window, message, w_param, l_param, SMTO_ABORTIFHUNG, timeout,
-                           &result)) {
+  if (!SendMessageTimeoutW(window, message, w_param, l_param, SMTO_ABORTIFHUNG, timeout, &result)) {
     std::wprintf(L"send-failed=%lu\n", GetLastError());
     return 1;
   }
@@ -123,11 +126,16 @@ int wmain(int argc, wchar_t** argv) {
   if (argc < 3) return 2;
   const std::wstring verb = argv[1];
   int result = 2;
-  if (verb == L"run") result = Run(argc, argv);
-  else if (verb == L"find") result = Find(argv[2]);
-  else if (verb == L"send") result = Send(argc, argv, false);
-  else if (verb == L"post") result = Send(argc, argv, true);
-  else if (verb == L"wait-gone" && argc > 3) result = WaitGone(argv[2], Number(argv[3]));
+  if (verb == L"run")
+    result = Run(argc, argv);
+  else if (verb == L"find")
+    result = Find(argv[2]);
+  else if (verb == L"send")
+    result = Send(argc, argv, false);
+  else if (verb == L"post")
+    result = Send(argc, argv, true);
+  else if (verb == L"wait-gone" && argc > 3)
+    result = WaitGone(argv[2], Number(argv[3]));
   std::fflush(stdout);
   return result;
 }

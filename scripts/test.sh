@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# Builds both trees and runs every test: the native suites, the same suites and the Windows-layer
+# suites under Wine, the scenario tests that drive the real programs, and the formatting check.
+# Ends with one summary line; the exit code is 0 only when every step passed.
+# Usage: scripts/test.sh
+set -uo pipefail
+root=$(cd "$(dirname "$0")/.." && pwd)
+cd "$root"
+
+"$root/scripts/install_deps.sh" || { echo "summary: 0 passed, 1 failed (installing tools)"; exit 1; }
+
+passed=0        # tests that passed, over all suites
+failed=0        # tests and steps that failed
+failures=()
+step() {
+  local name="$1"
+  shift
+  echo "=== $name"
+  if ! "$@"; then
+    failures+=("$name")
+  fi
+}
+
+# ctest's own count of tests run; a suite that ran nothing is a failure, not a pass.
+ctest_suite() {
+  local tree="$1" log
+  log=$(mktemp)
+  ctest --test-dir "$tree" --output-on-failure -j 2 --timeout 600 2>&1 | tee "$log"
+  local status=${PIPESTATUS[0]}
+  local counts total bad
+  counts=$(sed -n 's/.*tests passed, \([0-9]*\) tests\? failed out of \([0-9]*\).*/\1 \2/p' "$log")
+  rm -f "$log"
+  if [ -z "$counts" ]; then
+    failed=$((failed + 1))  # ctest could not run the suite at all
+    return 1
+  fi
+  read -r bad total <<<"$counts"
+  passed=$((passed + total - bad))
+  failed=$((failed + bad))
+  [ "$total" -gt 0 ] || { failed=$((failed + 1)); return 1; }
+  return "$status"
+}
+
+format_check() {
+  if git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror; then
+    passed=$((passed + 1))
+  else
+    failed=$((failed + 1))
+    return 1
+  fi
+}
+
+# A build that fails counts as a failure of its own.
+build_step() {
+  scripts/build.sh "$1" || { failed=$((failed + 1)); return 1; }
+}
+
+step "native build" build_step native
+step "native tests" ctest_suite build/native
+step "windows build" build_step windows
+step "windows tests under wine" ctest_suite build/windows
+step "formatting" format_check
+
+echo
+[ ${#failures[@]} -gt 0 ] && echo "failed steps: ${failures[*]}"
+echo "summary: $passed passed, $failed failed"
+[ "$failed" -eq 0 ] && [ ${#failures[@]} -eq 0 ]
