@@ -13,6 +13,7 @@
 #include "guard/log.h"
 #include "guard/paths.h"
 #include "guard/startup_options.h"
+#include "guard/update_policy.h"
 #include "i18n/localized.h"
 #include "setup/setup_actions.h"
 #include "tray/notice.h"
@@ -113,6 +114,7 @@ int RunGuard(HINSTANCE instance) {
                reinterpret_cast<LPARAM>(LoadApplicationIcon(instance, SM_CXSMICON, SM_CYSMICON)));
 
   AppendLog(open_settings_at_start ? L"app startup -> open settings" : L"app startup");
+  LogWindowsUpdatePolicyStatus();
 
   MSG message = {};
   BOOL result;

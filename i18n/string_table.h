@@ -9,7 +9,7 @@
 inline constexpr size_t kStringRowCount = 200;
 
 struct KeyedStringRow {
-  const wchar_t* key;                           // the Czech text every call site passes
+  const wchar_t* key;                          // the Czech text every call site passes
   const wchar_t* cells[kLanguageColumnCount];  // in the order of kLanguageColumns
 };
 

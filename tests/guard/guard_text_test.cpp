@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "guard/guard_status.h"
+#include "i18n/language.h"
+#include "i18n/string_table.h"
 #include "tests/support/fake_platform.h"
 
 namespace {
@@ -112,8 +114,10 @@ TEST(FormatGuardStatus, CzechTextsInCzech) {
             L"Stayhold: plánované povolení - pátek 13:00-17:00");
 }
 
-TEST(FormatGuardStatus, OtherLanguagesReadEnglish) {
+TEST(FormatGuardStatus, OtherLanguagesReadTheirColumn) {
   AppConfig().language = L"de-DE";
+  EXPECT_EQ(FormatTrayTooltip(Blocking()), kStringTable[27].cells[LanguageColumnIndex(L"de")]);
+  AppConfig().language = L"en-GB";
   EXPECT_EQ(FormatTrayTooltip(Blocking()), L"Stayhold: blocking planned restarts");
 }
 

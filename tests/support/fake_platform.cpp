@@ -4,14 +4,25 @@
 
 #include "guard/log.h"
 #include "i18n/locale_system.h"
+#include "tests/support/fake_machine_registry.h"
 
 FakePlatform& Fake() {
   static FakePlatform platform;
   return platform;
 }
 
+FakeMachineRegistry& FakeRegistry() {
+  static FakeMachineRegistry registry;
+  return registry;
+}
+
+MachineRegistry& SystemMachineRegistry() {
+  return FakeRegistry();
+}
+
 void ResetFakePlatform() {
   Fake() = FakePlatform();
+  FakeRegistry() = FakeMachineRegistry();
 }
 
 LocalTime CurrentLocalTime() {
@@ -82,6 +93,16 @@ bool LocaleInfoText(const std::wstring& tag, uint32_t lctype, std::wstring& out)
        {L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday", L"Sunday"}},
       {L"cs-CZ", {L"pondělí", L"úterý", L"středa", L"čtvrtek", L"pátek", L"sobota", L"neděle"}},
   };
+  static const std::map<std::wstring, std::pair<std::wstring, std::wstring>> kLanguageNames = {
+      {L"en-US", {L"English", L"English"}},
+      {L"cs-CZ", {L"čeština", L"Czech"}},
+  };
+  if (lctype == kLocaleNativeDisplayName || lctype == kLocaleEnglishDisplayName) {
+    auto names = kLanguageNames.find(tag);
+    if (names == kLanguageNames.end()) return false;
+    out = lctype == kLocaleNativeDisplayName ? names->second.first : names->second.second;
+    return true;
+  }
   auto found = kDayNames.find(tag);
   if (found == kDayNames.end() || lctype < kLocaleDayName1 || lctype > kLocaleDayName1 + 6) {
     return false;

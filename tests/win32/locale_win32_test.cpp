@@ -4,6 +4,7 @@
 #include "guard/config.h"
 #include "guard/guard_text.h"
 #include "i18n/language.h"
+#include "i18n/language_picker.h"
 #include "i18n/locale_system.h"
 
 namespace {
@@ -38,6 +39,22 @@ TEST(SystemUiLocaleName, IsATagTheTableUnderstands) {
   const std::wstring name = SystemUiLocaleName();
   ASSERT_FALSE(name.empty());
   EXPECT_NE(NormalizeLanguageSetting(name), L"");
+}
+
+}  // namespace
+
+namespace {
+
+TEST(LanguagePickerItems, NamesComeFromTheLocaleData) {
+  AppConfig().language = L"en-US";
+  const std::vector<std::wstring> items = LanguagePickerItems();
+  ASSERT_EQ(items.size(), 89u);
+  EXPECT_EQ(items[0], L"Automatic (Windows)");
+  const std::wstring czech = items[8];
+  EXPECT_EQ(czech.rfind(L" (cs-CZ)"), czech.size() - 8) << czech;
+  EXPECT_NE(czech.find(L"\u010De\u0161tina"), std::wstring::npos) << czech;  // native name first
+  EXPECT_NE(czech.find(L" / Czech"), std::wstring::npos) << czech;
+  EXPECT_LT(czech.find(L"\u010De\u0161tina"), czech.find(L" / Czech")) << czech;
 }
 
 }  // namespace

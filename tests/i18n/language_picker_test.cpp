@@ -1,0 +1,35 @@
+#include "i18n/language_picker.h"
+
+#include <gtest/gtest.h>
+
+#include "guard/config.h"
+#include "tests/support/fake_platform.h"
+
+namespace {
+
+TEST(LanguagePickerItems, AutomaticFirstThenEveryEntry) {
+  const std::vector<std::wstring> items = LanguagePickerItems();
+  ASSERT_EQ(items.size(), 89u);
+  EXPECT_EQ(items[0], L"Automatic (Windows)");
+  // The fake platform names en-US and cs-CZ; other tags stand for their own names.
+  EXPECT_EQ(items[1], L"ar-SA (ar-SA)");
+  EXPECT_EQ(items[8], L"čeština / Czech (cs-CZ)");
+  EXPECT_EQ(items[11], L"English (en-US)");  // same native and English name: no " / "
+  EXPECT_EQ(items[88], L"cy-GB (cy-GB)");
+  AppConfig().language = L"cs-CZ";
+  EXPECT_EQ(LanguagePickerItems()[0], L"Automaticky (Windows)");
+}
+
+TEST(LanguagePickerIndex, AutoIsZeroEntriesCountFromOne) {
+  const struct {
+    const wchar_t* language;
+    int index;
+  } cases[] = {{L"auto", 0}, {L"ar-SA", 1}, {L"cs-CZ", 8}, {L"en-GB", 12},
+               {L"cy-GB", 88}, {L"xx", 0},  {L"de-AT", 18}};
+  for (const auto& c : cases) {
+    AppConfig().language = c.language;
+    EXPECT_EQ(LanguagePickerIndex(), c.index) << c.language;
+  }
+}
+
+}  // namespace
