@@ -1,6 +1,7 @@
 # The portable sources: no <windows.h>, built natively and for Windows alike.
 set(STAYHOLD_PORTABLE_SOURCES
   guard/app_config.cpp
+  guard/config_store.cpp
   guard/guard_status.cpp
   guard/guard_text.cpp
   guard/install_folder.cpp
@@ -24,6 +25,7 @@ set(STAYHOLD_WIN32_SOURCES
   guard/hidden_window_win32.cpp
   guard/local_time_win32.cpp
   guard/log_win32.cpp
+  guard/profile_store_win32.cpp
   guard/machine_registry_win32.cpp
   i18n/locale_system_win32.cpp
   setup/setup_actions_win32.cpp

@@ -19,10 +19,30 @@ struct BehaviorProfile {
   std::vector<RestartWindow> windows;
 };
 
-// One remembered control state of a dialog (its meaning arrives with the settings dialog).
-struct SavedControlState {
+// The remembered state of one control of the settings dialog; what `values` hold is the control's
+// business (column widths, a scroll position).
+struct ControlUiState {
   std::wstring id;
-  std::wstring value;
+  int32_t x = 0;
+  int32_t y = 0;
+  int32_t width = 0;
+  int32_t height = 0;
+  std::wstring style_id;
+  bool restored_bounds = false;  // not stored
+  bool restored_values = false;  // not stored
+  std::vector<std::wstring> values;
+};
+
+// Where and how the settings dialog was left.
+struct WindowUiState {
+  int32_t x = 0;
+  int32_t y = 0;
+  int32_t width = 0;
+  int32_t height = 0;
+  int32_t show_command = 1;
+  bool maximized = false;
+  bool minimized = false;  // not stored; always false after normalization
+  std::vector<ControlUiState> controls;
 };
 
 struct StayholdConfig {
@@ -34,14 +54,7 @@ struct StayholdConfig {
   std::vector<BehaviorProfile> profiles;
 
   bool has_settings_ui_state = false;
-  int32_t settings_x = 0;
-  int32_t settings_y = 0;
-  int32_t settings_width = 0;
-  int32_t settings_height = 0;
-  int32_t show_command = 1;
-  bool maximized = false;
-  bool restore_to_maximized = false;  // always reset by normalization
-  std::vector<SavedControlState> control_states;
+  WindowUiState settings_ui_state;
 };
 
 // The process-wide configuration; exists with its defaults from the first instruction.

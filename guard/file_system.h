@@ -18,8 +18,9 @@ std::wstring TempFolder();                                    // GetTempPathW
 bool AbsolutePath(const std::wstring& path, std::wstring& out);
 bool IsRegularFile(const std::wstring& path);
 bool IsDirectory(const std::wstring& path);
-void CreateDirectoryTree(const std::wstring& path);  // errors ignored
-void ShellOpen(const std::wstring& path);            // verb "open", normal show state
+// False when the folder could not be made; most callers ignore that.
+bool CreateDirectoryTree(const std::wstring& path);
+void ShellOpen(const std::wstring& path);  // verb "open", normal show state
 
 // The value InstallLocation under HKLM\`key` when it is REG_SZ or REG_EXPAND_SZ (not expanded) and
 // its first character is not zero; read into 260 characters.

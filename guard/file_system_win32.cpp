@@ -65,9 +65,10 @@ bool IsDirectory(const std::wstring& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-void CreateDirectoryTree(const std::wstring& path) {
-  std::error_code ignored;
-  std::filesystem::create_directories(path, ignored);
+bool CreateDirectoryTree(const std::wstring& path) {
+  std::error_code error;
+  std::filesystem::create_directories(path, error);
+  return !error;
 }
 
 void ShellOpen(const std::wstring& path) {

@@ -14,9 +14,9 @@ class Win32MachineRegistry final : public MachineRegistry {
 
   bool SetDword(const std::wstring& name, uint32_t value) override {
     const DWORD data = value;
-    return open_ && RegSetValueExW(open_, name.c_str(), 0, REG_DWORD,
-                                   reinterpret_cast<const BYTE*>(&data),
-                                   sizeof(data)) == ERROR_SUCCESS;
+    return open_ &&
+           RegSetValueExW(open_, name.c_str(), 0, REG_DWORD, reinterpret_cast<const BYTE*>(&data),
+                          sizeof(data)) == ERROR_SUCCESS;
   }
 
   void CloseKey() override {

@@ -36,8 +36,8 @@ bool WriteKey(MachineRegistry& registry, const wchar_t* key, const wchar_t* key_
               const PolicyValue* values, size_t count, bool& all_written) {
   const long error = registry.CreateKey(key);
   if (error != 0) {
-    AppendLog(std::wstring(L"windows update policy failed: create ") + key_label +
-              L" key error=" + SignedDecimal(error));
+    AppendLog(std::wstring(L"windows update policy failed: create ") + key_label + L" key error=" +
+              SignedDecimal(error));
     return false;
   }
   for (size_t i = 0; i < count; ++i) {
@@ -77,7 +77,9 @@ bool ApplyWindowsUpdatePolicy(MachineRegistry& registry) {
   return true;
 }
 
-bool ApplyWindowsUpdatePolicy() { return ApplyWindowsUpdatePolicy(SystemMachineRegistry()); }
+bool ApplyWindowsUpdatePolicy() {
+  return ApplyWindowsUpdatePolicy(SystemMachineRegistry());
+}
 
 UpdatePolicyReading ReadWindowsUpdatePolicy(MachineRegistry& registry) {
   UpdatePolicyReading reading;
@@ -102,10 +104,9 @@ bool IsStrictUpdatePolicy(const UpdatePolicyReading& r) {
 
 std::wstring FormatUpdatePolicyStatus(const UpdatePolicyReading& r) {
   return std::wstring(L"windows update manual-restart policy status: ") +
-         (IsStrictUpdatePolicy(r) ? L"strict" : L"not-strict") +
-         L" NoAutoUpdate=" + ValueText(r.no_auto_update) + L" AUOptions=" +
-         ValueText(r.au_options) + L" NoAutoRebootWithLoggedOnUsers=" +
-         ValueText(r.no_auto_reboot_with_logged_on_users) +
+         (IsStrictUpdatePolicy(r) ? L"strict" : L"not-strict") + L" NoAutoUpdate=" +
+         ValueText(r.no_auto_update) + L" AUOptions=" + ValueText(r.au_options) +
+         L" NoAutoRebootWithLoggedOnUsers=" + ValueText(r.no_auto_reboot_with_logged_on_users) +
          L" AlwaysAutoRebootAtScheduledTime=" + ValueText(r.always_auto_reboot_at_scheduled_time) +
          L" SetComplianceDeadline=" + ValueText(r.set_compliance_deadline);
 }
@@ -114,4 +115,6 @@ void LogWindowsUpdatePolicyStatus(MachineRegistry& registry) {
   AppendLog(FormatUpdatePolicyStatus(ReadWindowsUpdatePolicy(registry)));
 }
 
-void LogWindowsUpdatePolicyStatus() { LogWindowsUpdatePolicyStatus(SystemMachineRegistry()); }
+void LogWindowsUpdatePolicyStatus() {
+  LogWindowsUpdatePolicyStatus(SystemMachineRegistry());
+}

@@ -23,7 +23,8 @@ std::vector<std::wstring> LanguagePickerItems() {
   std::vector<std::wstring> items;
   items.reserve(kLocaleEntryCount + 1);
   items.push_back(Localized(L"Automaticky (Windows)", L"Automatic (Windows)"));
-  for (const LocaleEntry& entry : kLocaleTable) items.push_back(PickerLine(entry.tag));
+  for (const LocaleEntry& entry : kLocaleTable)
+    items.push_back(PickerLine(entry.tag));
   return items;
 }
 

@@ -44,8 +44,8 @@ TEST(ApplyWindowsUpdatePolicy, KeyCreationFailuresStopWithTheirLogLine) {
     const wchar_t* line;
     size_t calls;
   } cases[] = {
-      {"first key", kUpdate, 5,
-       L"windows update policy failed: create WindowsUpdate key error=5", 1},
+      {"first key", kUpdate, 5, L"windows update policy failed: create WindowsUpdate key error=5",
+       1},
       {"AU key", kAu, 5, L"windows update policy failed: create AU key error=5", 7},
       {"negative code keeps its sign", kAu, -2,
        L"windows update policy failed: create AU key error=-2", 7},

@@ -24,8 +24,8 @@ TEST(LanguagePickerIndex, AutoIsZeroEntriesCountFromOne) {
   const struct {
     const wchar_t* language;
     int index;
-  } cases[] = {{L"auto", 0}, {L"ar-SA", 1}, {L"cs-CZ", 8}, {L"en-GB", 12},
-               {L"cy-GB", 88}, {L"xx", 0},  {L"de-AT", 18}};
+  } cases[] = {{L"auto", 0},   {L"ar-SA", 1}, {L"cs-CZ", 8}, {L"en-GB", 12},
+               {L"cy-GB", 88}, {L"xx", 0},    {L"de-AT", 18}};
   for (const auto& c : cases) {
     AppConfig().language = c.language;
     EXPECT_EQ(LanguagePickerIndex(), c.index) << c.language;

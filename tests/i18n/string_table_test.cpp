@@ -25,6 +25,23 @@ TEST(StringTable, EveryCellIsFilledAndTheCzechColumnRepeatsTheKey) {
   EXPECT_EQ(kUntranslatedCells[kEn], 0);
 }
 
+TEST(StringTable, EveryColumnIsTranslated) {
+  for (size_t column = 0; column < kLanguageColumnCount; ++column) {
+    EXPECT_EQ(kUntranslatedCells[column], 0) << kLanguageColumns[column];
+  }
+}
+
+TEST(StringTable, TranslatedColumnsDifferFromEnglish) {
+  // The block reason and the Exit label are real sentences and words in every language.
+  for (size_t column = 0; column < kLanguageColumnCount; ++column) {
+    if (static_cast<int>(column) == kEn) continue;
+    EXPECT_STRNE(kStringTable[3].cells[column], kStringTable[3].cells[kEn])
+        << kLanguageColumns[column];
+    EXPECT_STRNE(kStringTable[51].cells[column], kStringTable[51].cells[kEn])
+        << kLanguageColumns[column];
+  }
+}
+
 TEST(StringTable, RowsKeepTheirPlaces) {
   const struct {
     size_t row;
@@ -36,7 +53,8 @@ TEST(StringTable, RowsKeepTheirPlaces) {
       {53, L"Stayhold"},
       {199, L"Stayhold is already running in the notification area."},
   };
-  for (const auto& c : cases) EXPECT_STREQ(kStringTable[c.row].cells[kEn], c.en) << c.row;
+  for (const auto& c : cases)
+    EXPECT_STREQ(kStringTable[c.row].cells[kEn], c.en) << c.row;
 }
 
 TEST(Localized, RowCellsByLanguageAndFallBacksWithoutARow) {
@@ -55,12 +73,10 @@ TEST(Localized, RowCellsByLanguageAndFallBacksWithoutARow) {
       {"cs-CZ with a row gives the key", L"cs-CZ", L"en-US", block_cs, L"ignored", block_cs},
       {"en-US with a row gives the row's English cell, not the caller's", L"en-US", L"en-US",
        block_cs, L"caller text", block_en},
-      {"cs-CZ without a row gives the Czech text", L"cs-CZ", L"en-US", L"Bez řádku",
-       L"No row", L"Bez řádku"},
-      {"de-DE without a row gives English", L"de-DE", L"en-US", L"Bez řádku", L"No row",
-       L"No row"},
-      {"auto follows Windows into Czech", L"auto", L"cs-CZ", L"Bez řádku", L"No row",
+      {"cs-CZ without a row gives the Czech text", L"cs-CZ", L"en-US", L"Bez řádku", L"No row",
        L"Bez řádku"},
+      {"de-DE without a row gives English", L"de-DE", L"en-US", L"Bez řádku", L"No row", L"No row"},
+      {"auto follows Windows into Czech", L"auto", L"cs-CZ", L"Bez řádku", L"No row", L"Bez řádku"},
       {"auto with Windows outside the table gives English", L"auto", L"xx-YY", L"Bez řádku",
        L"No row", L"No row"},
   };
@@ -77,9 +93,9 @@ TEST(Localized, ReadsTheColumnOfTheEffectiveLanguage) {
     const wchar_t* language;
     const wchar_t* column;
   } cases[] = {
-      {L"ja-JP", L"ja"},   {L"ar-SA", L"ar"},      {L"sr-Latn-BA", L"sr-Latn"},
+      {L"ja-JP", L"ja"},      {L"ar-SA", L"ar"},    {L"sr-Latn-BA", L"sr-Latn"},
       {L"sr-Cyrl-RS", L"sr"}, {L"zh-HK", L"zh-CN"}, {L"ca-ES-valencia", L"ca"},
-      {L"nn-NO", L"no"},   {L"de-AT", L"de"},
+      {L"nn-NO", L"no"},      {L"de-AT", L"de"},
   };
   for (const auto& c : cases) {
     AppConfig().language = c.language;

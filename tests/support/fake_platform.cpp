@@ -5,6 +5,7 @@
 #include "guard/log.h"
 #include "i18n/locale_system.h"
 #include "tests/support/fake_machine_registry.h"
+#include "tests/support/memory_profile_store.h"
 
 FakePlatform& Fake() {
   static FakePlatform platform;
@@ -23,6 +24,11 @@ MachineRegistry& SystemMachineRegistry() {
 void ResetFakePlatform() {
   Fake() = FakePlatform();
   FakeRegistry() = FakeMachineRegistry();
+  MemoryStore() = MemoryProfileStore();
+}
+
+ProfileStore& SystemProfileStore() {
+  return MemoryStore();
 }
 
 LocalTime CurrentLocalTime() {
@@ -67,9 +73,11 @@ bool IsDirectory(const std::wstring& path) {
   return Fake().directories.count(path) > 0;
 }
 
-void CreateDirectoryTree(const std::wstring& path) {
+bool CreateDirectoryTree(const std::wstring& path) {
+  if (Fake().directories_fail) return false;
   Fake().created_directories.push_back(path);
   Fake().directories.insert(path);
+  return true;
 }
 
 void ShellOpen(const std::wstring& path) {

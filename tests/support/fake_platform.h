@@ -28,6 +28,7 @@ struct FakePlatform {
   std::map<std::wstring, std::wstring> install_locations;  // registry key -> value
   std::vector<std::wstring> opened;                        // ShellOpen calls
   std::vector<std::wstring> created_directories;
+  bool directories_fail = false;  // CreateDirectoryTree reports an error
   std::vector<std::wstring> log;
 };
 

@@ -1,0 +1,440 @@
+#include "guard/config_store.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "guard/paths.h"
+#include "tests/support/fake_platform.h"
+#include "tests/support/memory_profile_store.h"
+
+namespace {
+
+using File = MemoryProfileStore::File;
+
+std::wstring Path() { return ConfigFilePath(); }
+
+const std::wstring* Value(const wchar_t* section, const wchar_t* key) {
+  return MemoryStore().Find(Path(), section, key);
+}
+
+std::wstring ValueOr(const wchar_t* section, const wchar_t* key, const wchar_t* missing) {
+  const std::wstring* value = Value(section, key);
+  return value ? *value : missing;
+}
+
+ControlUiState Control(const wchar_t* id) {
+  ControlUiState control;
+  control.id = id;
+  return control;
+}
+
+bool operator==(const RestartWindow& a, const RestartWindow& b) {
+  return a.enabled == b.enabled && a.day == b.day && a.from_minute == b.from_minute &&
+         a.to_minute == b.to_minute;
+}
+
+TEST(ParseWindowValue, ScansFourNumbersAndClamps) {
+  const RestartWindow fallback{true, 0, 780, 1020};
+  const struct {
+    const wchar_t* text;
+    RestartWindow window;
+  } cases[] = {
+      {L"1,4,780,1020", {true, 4, 780, 1020}},
+      {L"0,6,1380,60", {false, 6, 1380, 60}},
+      {L"7,9,9999,-5", {true, 6, 1439, 0}},
+      {L"-1,-3,-10,2000", {true, 0, 0, 1439}},
+      {L" 1, 2, 3, 4", {true, 2, 3, 4}},      // %d skips white space before a number
+      {L"1 ,2,3,4", fallback},                 // but a comma must follow at once
+      {L"1,2,3,4 trailing text", {true, 2, 3, 4}},
+      {L"1,2,3,4,5", {true, 2, 3, 4}},
+      {L"1,2,3", fallback},
+      {L"garbage", fallback},
+      {L"", fallback},
+      {L"1,2,x,4", fallback},
+      {L"+1,+2,+3,+4", {true, 2, 3, 4}},
+      {L"0,1,99999999999999,5", {false, 1, 1439, 5}},
+  };
+  for (const auto& c : cases) EXPECT_TRUE(ParseWindowValue(c.text) == c.window) << c.text;
+}
+
+TEST(NormalizeUiPerformanceProfile, MapsEverySpelling) {
+  const struct {
+    const wchar_t* in;
+    const wchar_t* out;
+  } cases[] = {
+      {L"best", L"best-graphics"},         {L" Best_Graphics ", L"best-graphics"},
+      {L"max-detail", L"best-graphics"},   {L"MAX_DETAILS", L"best-graphics"},
+      {L"maximum-detail", L"best-graphics"}, {L"maximum-details", L"best-graphics"},
+      {L"max-detaily", L"best-graphics"},  {L"maximum-performance", L"maximum-performance"},
+      {L"max_performance", L"maximum-performance"}, {L"max-vykon", L"maximum-performance"},
+      {L"Performance", L"maximum-performance"}, {L"balanced", L"balanced"},
+      {L"", L"balanced"},                  {L"fast", L"balanced"},
+      {L"best graphics", L"balanced"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(NormalizeUiPerformanceProfile(c.in), c.out) << c.in;
+}
+
+TEST(NormalizeConfig, RepairsEveryField) {
+  StayholdConfig config;
+  config.language = L"de_at";
+  config.skin_id = L"  ";
+  config.ui_performance_profile = L"performance";
+  config.profiles = {BehaviorProfile{L"  Work  ", {{true, 9, -4, 5000}, {false, 2, 60, 120}}},
+                     BehaviorProfile{L"", {}}};
+  config.active_profile_index = 5;
+  const StayholdConfig normal = NormalizeConfig(config);
+  EXPECT_EQ(normal.language, L"de-DE");
+  EXPECT_EQ(normal.skin_id, L"win11-auto");
+  EXPECT_EQ(normal.ui_performance_profile, L"maximum-performance");
+  EXPECT_EQ(normal.profiles[0].name, L"Work");
+  EXPECT_TRUE(normal.profiles[0].windows[0] == (RestartWindow{true, 6, 0, 1439}));
+  EXPECT_TRUE(normal.profiles[0].windows[1] == (RestartWindow{false, 2, 60, 120}));
+  EXPECT_EQ(normal.active_profile_index, 1);
+  config.active_profile_index = -2;
+  EXPECT_EQ(NormalizeConfig(config).active_profile_index, 0);
+}
+
+TEST(NormalizeConfig, NoProfileGetsOneEmptyProfile) {
+  const StayholdConfig normal = NormalizeConfig(StayholdConfig{});
+  ASSERT_EQ(normal.profiles.size(), 1u);
+  EXPECT_TRUE(normal.profiles[0].name.empty());
+  EXPECT_TRUE(normal.profiles[0].windows.empty());
+  EXPECT_EQ(normal.skin_id, L"win11-auto");
+}
+
+TEST(NormalizeConfig, UiStateKeepsOnlyTheTableAndItsScrollBar) {
+  StayholdConfig config;
+  config.has_settings_ui_state = true;
+  config.settings_ui_state.minimized = true;
+  for (int command : {2, 6, 7, 3, 1}) {
+    config.settings_ui_state.show_command = command;
+    config.settings_ui_state.controls = {Control(L"settings-window-table"),
+                                         Control(L"settings-window-name"),
+                                         Control(L"settings-window-scroll")};
+    const WindowUiState state = NormalizeConfig(config).settings_ui_state;
+    EXPECT_EQ(state.show_command, command == 3 ? 3 : 1) << command;
+    EXPECT_FALSE(state.minimized);
+    ASSERT_EQ(state.controls.size(), 2u);
+    EXPECT_EQ(state.controls[1].id, L"settings-window-scroll");
+    EXPECT_TRUE(state.controls[0].restored_bounds && state.controls[0].restored_values);
+  }
+}
+
+TEST(LoadConfig, FirstStartCreatesTheFile) {
+  const StayholdConfig config = LoadConfig();
+  EXPECT_TRUE(config.guard_enabled);
+  ASSERT_EQ(config.profiles.size(), 1u);
+  EXPECT_EQ(ValueOr(L"general", L"guard_enabled", L"?"), L"1");
+  EXPECT_EQ(ValueOr(L"general", L"language", L"?"), L"auto");
+  EXPECT_EQ(ValueOr(L"general", L"skin_id", L"?"), L"win11-auto");
+  EXPECT_EQ(ValueOr(L"general", L"ui_performance_profile", L"?"), L"balanced");
+  EXPECT_EQ(ValueOr(L"profiles", L"count", L"?"), L"1");
+  EXPECT_EQ(ValueOr(L"profiles", L"active_index", L"?"), L"0");
+  EXPECT_EQ(ValueOr(L"profile0", L"name", L"?"), L"");
+  EXPECT_EQ(ValueOr(L"profile0", L"windows_count", L"?"), L"0");
+  EXPECT_EQ(Fake().created_directories,
+            std::vector<std::wstring>{L"C:\\Users\\ada\\AppData\\Local\\Stayhold"});
+}
+
+TEST(LoadConfig, LegacyLayoutIsMigratedAtTheFirstStart) {
+  MemoryStore().Put(Path(), File{{L"general", {{L"manual_blocking_enabled", L"0"}}},
+                                 {L"windows", {{L"count", L"2"},
+                                               {L"item0", L"1,4,780,1020"},
+                                               {L"item1", L""}}}});
+  const StayholdConfig config = LoadConfig();
+  EXPECT_FALSE(config.guard_enabled);
+  ASSERT_EQ(config.profiles.size(), 1u);
+  EXPECT_TRUE(config.profiles[0].name.empty());
+  ASSERT_EQ(config.profiles[0].windows.size(), 1u);
+  EXPECT_TRUE(config.profiles[0].windows[0] == (RestartWindow{true, 4, 780, 1020}));
+  EXPECT_FALSE(MemoryStore().HasSection(Path(), L"windows"));
+  EXPECT_EQ(Value(L"general", L"manual_blocking_enabled"), nullptr);
+  EXPECT_EQ(ValueOr(L"general", L"guard_enabled", L"?"), L"0");
+  EXPECT_EQ(ValueOr(L"profile0", L"window0", L"?"), L"1,4,780,1020");
+}
+
+TEST(LoadConfig, NewerSwitchWinsOverTheOlderOne) {
+  const struct {
+    const wchar_t* legacy;
+    const wchar_t* current;
+    bool enabled;
+  } cases[] = {
+      {nullptr, nullptr, true}, {L"0", nullptr, false}, {L"1", nullptr, true},
+      {L"0", L"1", true},       {L"1", L"0", false},    {nullptr, L"0", false},
+      {nullptr, L"7", true},    {nullptr, L"x", false}, {L"-3", nullptr, true},
+  };
+  for (const auto& c : cases) {
+    ResetFakePlatform();
+    MemoryProfileStore::Section general;
+    if (c.legacy) general.push_back({L"manual_blocking_enabled", c.legacy});
+    if (c.current) general.push_back({L"guard_enabled", c.current});
+    MemoryStore().Put(Path(), File{{L"general", general}, {L"profiles", {{L"count", L"1"}}}});
+    EXPECT_EQ(LoadConfig().guard_enabled, c.enabled)
+        << (c.legacy ? "legacy " : "") << (c.current ? "current" : "");
+  }
+}
+
+TEST(LoadConfig, WindowValuesBlankAreDroppedBadAreDefaulted) {
+  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}},
+                                 {L"profile0", {{L"name", L" Night "},
+                                                {L"windows_count", L"4"},
+                                                {L"window0", L"garbage"},
+                                                {L"window1", L"   "},
+                                                {L"window2", L"7,9,9999,-5"}}}});
+  const StayholdConfig config = LoadConfig();
+  ASSERT_EQ(config.profiles.size(), 1u);
+  EXPECT_EQ(config.profiles[0].name, L"Night");
+  ASSERT_EQ(config.profiles[0].windows.size(), 2u);  // window1 blank, window3 missing
+  EXPECT_TRUE(config.profiles[0].windows[0] == (RestartWindow{true, 0, 780, 1020}));
+  EXPECT_TRUE(config.profiles[0].windows[1] == (RestartWindow{true, 6, 1439, 0}));
+}
+
+TEST(LoadConfig, DamagedCountsAndIndices) {
+  const struct {
+    const char* what;
+    File file;
+    size_t profiles;
+    int active;
+    size_t first_windows;
+  } cases[] = {
+      {"count beyond the sections gives unnamed empty profiles",
+       {{L"profiles", {{L"count", L"3"}, {L"active_index", L"2"}}},
+        {L"profile0", {{L"name", L"A"}, {L"windows_count", L"1"}, {L"window0", L"1,1,1,2"}}}},
+       3, 2, 1},
+      {"negative windows count reads as none",
+       {{L"profiles", {{L"count", L"1"}}}, {L"profile0", {{L"windows_count", L"-4"}}}},
+       1, 0, 0},
+      {"active index too large is clamped",
+       {{L"profiles", {{L"count", L"2"}, {L"active_index", L"7"}}}},
+       2, 1, 0},
+      {"negative active index is clamped",
+       {{L"profiles", {{L"count", L"2"}, {L"active_index", L"-1"}}}},
+       2, 0, 0},
+      {"negative profile count takes the legacy branch",
+       {{L"profiles", {{L"count", L"-2"}}},
+        {L"windows", {{L"count", L"1"}, {L"item0", L"0,3,0,60"}}}},
+       1, 0, 1},
+  };
+  for (const auto& c : cases) {
+    ResetFakePlatform();
+    MemoryStore().Put(Path(), c.file);
+    const StayholdConfig config = LoadConfig();
+    EXPECT_EQ(config.profiles.size(), c.profiles) << c.what;
+    EXPECT_EQ(config.active_profile_index, c.active) << c.what;
+    ASSERT_FALSE(config.profiles.empty()) << c.what;
+    EXPECT_EQ(config.profiles[0].windows.size(), c.first_windows) << c.what;
+  }
+}
+
+TEST(LoadConfig, ExistingFileIsNotRewritten) {
+  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}}});
+  LoadConfig();
+  EXPECT_EQ(MemoryStore().writes, 0);
+}
+
+TEST(LoadConfig, NegativeProfileCountIsReadButNotRewritten) {
+  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"-1"}}}});
+  LoadConfig();
+  EXPECT_EQ(MemoryStore().writes, 0);
+}
+
+TEST(LoadConfig, LongProfileNameIsCut) {
+  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}},
+                                 {L"profile0", {{L"name", std::wstring(5000, L'n')}}}});
+  EXPECT_EQ(LoadConfig().profiles[0].name.size(), 4095u);
+}
+
+TEST(LoadConfig, AFolderInThePlaceOfTheFileGivesDefaultsAndTheSaveFails) {
+  Fake().directories.insert(Path());
+  const StayholdConfig config = LoadConfig();
+  EXPECT_TRUE(config.guard_enabled);
+  EXPECT_EQ(config.profiles.size(), 1u);
+  EXPECT_FALSE(SaveConfig(config));
+}
+
+TEST(SaveConfig, FailsWhenTheFolderCannotBeMade) {
+  Fake().directories_fail = true;
+  EXPECT_FALSE(SaveConfig(StayholdConfig{}));
+  EXPECT_EQ(MemoryStore().writes, 0);
+}
+
+TEST(SaveConfig, ShrinkingRemovesStaleSectionsAndKeys) {
+  StayholdConfig config;
+  for (int p = 0; p < 5; ++p) {
+    BehaviorProfile profile{L"P" + std::to_wstring(p), {}};
+    for (int w = 0; w < 4; ++w) profile.windows.push_back(RestartWindow{true, w, 60, 120});
+    config.profiles.push_back(profile);
+  }
+  ASSERT_TRUE(SaveConfig(config));
+  EXPECT_TRUE(MemoryStore().HasSection(Path(), L"profile4"));
+  MemoryStore().WriteString(Path(), L"profile0", L"blocking_enabled", L"1");
+
+  config.profiles.resize(2);
+  config.profiles[0].windows.resize(1);
+  ASSERT_TRUE(SaveConfig(config));
+  EXPECT_EQ(ValueOr(L"profiles", L"count", L"?"), L"2");
+  for (const wchar_t* gone : {L"profile2", L"profile3", L"profile4"}) {
+    EXPECT_FALSE(MemoryStore().HasSection(Path(), gone)) << gone;
+  }
+  EXPECT_EQ(ValueOr(L"profile0", L"windows_count", L"?"), L"1");
+  EXPECT_EQ(ValueOr(L"profile0", L"window0", L"?"), L"1,0,60,120");
+  for (const wchar_t* gone : {L"window1", L"window2", L"window3", L"blocking_enabled"}) {
+    EXPECT_EQ(Value(L"profile0", gone), nullptr) << gone;
+  }
+  EXPECT_EQ(ValueOr(L"profile1", L"window3", L"?"), L"1,3,60,120");
+}
+
+TEST(SaveConfig, SavesANormalizedCopyAndLeavesTheArgument) {
+  StayholdConfig config;
+  config.language = L"cs";
+  config.active_profile_index = 9;
+  config.profiles = {BehaviorProfile{L" A ", {{true, 8, 1500, -1}}}};
+  ASSERT_TRUE(SaveConfig(config));
+  EXPECT_EQ(ValueOr(L"general", L"language", L"?"), L"cs-CZ");
+  EXPECT_EQ(ValueOr(L"profiles", L"active_index", L"?"), L"0");
+  EXPECT_EQ(ValueOr(L"profile0", L"name", L"?"), L"A");
+  EXPECT_EQ(ValueOr(L"profile0", L"window0", L"?"), L"1,6,1439,0");
+  EXPECT_EQ(config.language, L"cs");
+  EXPECT_EQ(config.active_profile_index, 9);
+}
+
+TEST(SaveConfig, RoundTripKeepsEverything) {
+  StayholdConfig config;
+  config.guard_enabled = false;
+  config.language = L"ja-JP";
+  config.skin_id = L"custom-skin";
+  config.ui_performance_profile = L"best-graphics";
+  config.active_profile_index = 1;
+  config.profiles = {BehaviorProfile{L"Pracovní týden", {{true, 4, 780, 1020}}},
+                     BehaviorProfile{L"週末 🌙", {{false, 6, 1380, 60}, {true, 5, 0, 0}}}};
+  config.has_settings_ui_state = true;
+  config.settings_ui_state = WindowUiState{-20, 30, 900, 640, 3, true, false, {}};
+  config.settings_ui_state.controls.push_back(
+      ControlUiState{L"settings-window-table", 1, 2, 300, 200, L"table", true, true,
+                     {L"120", L"80", L"80"}});
+  ASSERT_TRUE(SaveConfig(config));
+  const StayholdConfig loaded = LoadConfig();
+  EXPECT_EQ(loaded.guard_enabled, false);
+  EXPECT_EQ(loaded.language, L"ja-JP");
+  EXPECT_EQ(loaded.skin_id, L"custom-skin");
+  EXPECT_EQ(loaded.ui_performance_profile, L"best-graphics");
+  EXPECT_EQ(loaded.active_profile_index, 1);
+  ASSERT_EQ(loaded.profiles.size(), 2u);
+  EXPECT_EQ(loaded.profiles[0].name, L"Pracovní týden");
+  EXPECT_EQ(loaded.profiles[1].name, L"週末 🌙");
+  EXPECT_TRUE(loaded.profiles[1].windows[0] == (RestartWindow{false, 6, 1380, 60}));
+  EXPECT_TRUE(loaded.profiles[1].windows[1] == (RestartWindow{true, 5, 0, 0}));
+  ASSERT_TRUE(loaded.has_settings_ui_state);
+  EXPECT_EQ(loaded.settings_ui_state.x, -20);
+  EXPECT_EQ(loaded.settings_ui_state.width, 900);
+  EXPECT_EQ(loaded.settings_ui_state.show_command, 3);
+  EXPECT_TRUE(loaded.settings_ui_state.maximized);
+  ASSERT_EQ(loaded.settings_ui_state.controls.size(), 1u);
+  EXPECT_EQ(loaded.settings_ui_state.controls[0].values,
+            (std::vector<std::wstring>{L"120", L"80", L"80"}));
+  EXPECT_EQ(loaded.settings_ui_state.controls[0].style_id, L"table");
+}
+
+TEST(UiState, ReadRules) {
+  const struct {
+    const char* what;
+    MemoryProfileStore::Section window;
+    std::vector<std::pair<std::wstring, MemoryProfileStore::Section>> controls;
+    bool present;
+    size_t kept;
+  } cases[] = {
+      {"schema 0 means no state",
+       {{L"schema_version", L"0"}, {L"window_width", L"800"}}, {}, false, 0},
+      {"no schema means no state", {{L"window_width", L"800"}}, {}, false, 0},
+      {"a size makes a state", {{L"schema_version", L"1"}, {L"window_height", L"5"}}, {}, true, 0},
+      {"nothing positive and no control: none",
+       {{L"schema_version", L"1"}, {L"window_width", L"-5"}}, {}, false, 0},
+      {"a kept control alone makes a state",
+       {{L"schema_version", L"1"}, {L"control_count", L"1"}},
+       {{L"ui_state.settings.control0", {{L"id", L"settings-window-scroll"}}}}, true, 1},
+      {"other controls and missing sections are dropped",
+       {{L"schema_version", L"1"}, {L"control_count", L"4"}, {L"window_width", L"600"}},
+       {{L"ui_state.settings.control0", {{L"id", L"settings-window-name"}}},
+        {L"ui_state.settings.control1", {{L"id", L"settings-window-table"}}}},
+       true, 1},
+  };
+  for (const auto& c : cases) {
+    ResetFakePlatform();
+    File file{{L"ui_state.settings", c.window}};
+    for (const auto& control : c.controls) file.push_back(control);
+    MemoryStore().Put(Path(), file);
+    const std::optional<WindowUiState> state = ReadUiState(MemoryStore(), Path());
+    EXPECT_EQ(state.has_value(), c.present) << c.what;
+    if (state) {
+      EXPECT_EQ(state->controls.size(), c.kept) << c.what;
+    }
+  }
+}
+
+TEST(UiState, WritingReplacesOldControlSectionsAndTouchesNothingElse) {
+  MemoryStore().Put(Path(), File{{L"general", {{L"language", L"cs-CZ"}}},
+                                 {L"ui_state.settings", {{L"control_count", L"3"}}},
+                                 {L"ui_state.settings.control0", {{L"id", L"a"}}},
+                                 {L"ui_state.settings.control1", {{L"id", L"b"}}},
+                                 {L"ui_state.settings.control2", {{L"id", L"c"}}}});
+  WindowUiState state;
+  state.width = 700;
+  state.controls.push_back(Control(L"settings-window-table"));
+  ASSERT_TRUE(WriteUiState(MemoryStore(), Path(), state));
+  EXPECT_FALSE(MemoryStore().HasSection(Path(), L"ui_state.settings.control1"));
+  EXPECT_FALSE(MemoryStore().HasSection(Path(), L"ui_state.settings.control2"));
+  EXPECT_EQ(ValueOr(L"ui_state.settings.control0", L"id", L"?"), L"settings-window-table");
+  EXPECT_EQ(ValueOr(L"ui_state.settings", L"schema_version", L"?"), L"1");
+  EXPECT_EQ(ValueOr(L"general", L"language", L"?"), L"cs-CZ");
+}
+
+TEST(SaveConfig, UiStateIsWrittenOnlyWhenPresent) {
+  ASSERT_TRUE(SaveConfig(StayholdConfig{}));
+  EXPECT_FALSE(MemoryStore().HasSection(Path(), L"ui_state.settings"));
+}
+
+// Random damage of every kind must still load into a configuration the guard can rely on.
+TEST(LoadConfig, RandomlyDamagedFilesAlwaysSatisfyTheInvariants) {
+  std::mt19937 random(20261122);
+  const std::vector<std::wstring> sections = {L"general", L"profiles", L"windows", L"profile0",
+                                              L"profile1", L"profile2", L"ui_state.settings"};
+  const std::vector<std::wstring> keys = {
+      L"guard_enabled", L"manual_blocking_enabled", L"language", L"skin_id",
+      L"ui_performance_profile", L"count", L"active_index", L"name", L"windows_count",
+      L"window0", L"window1", L"window2", L"item0", L"item1", L"schema_version",
+      L"window_width", L"control_count", L"show_command"};
+  const std::vector<std::wstring> values = {
+      L"", L"0", L"1", L"-1", L"3", L"99999999999", L"-2147483648", L"garbage", L"1,2,3,4",
+      L"7,9,9999,-5", L"0,6,1380,60", L"1,-8,,", L"  ", L"auto", L"xx", L"sr_latn",
+      L"\x0416\x05D0", L"1,3,1439,1439 tail", L"2147483647"};
+  const auto pick = [&](const auto& list) { return list[random() % list.size()]; };
+  for (int round = 0; round < 10000; ++round) {
+    ResetFakePlatform();
+    File file;
+    const int section_count = static_cast<int>(random() % 6);
+    for (int s = 0; s < section_count; ++s) {
+      MemoryProfileStore::Section section;
+      const int key_count = static_cast<int>(random() % 8);
+      for (int k = 0; k < key_count; ++k) section.push_back({pick(keys), pick(values)});
+      file.push_back({pick(sections), section});
+    }
+    MemoryStore().Put(Path(), file);
+    const StayholdConfig config = LoadConfig();
+    ASSERT_FALSE(config.profiles.empty()) << round;
+    ASSERT_GE(config.active_profile_index, 0) << round;
+    ASSERT_LT(config.active_profile_index, static_cast<int>(config.profiles.size())) << round;
+    for (const BehaviorProfile& profile : config.profiles) {
+      for (const RestartWindow& w : profile.windows) {
+        ASSERT_TRUE(w.day >= 0 && w.day <= 6) << round;
+        ASSERT_TRUE(w.from_minute >= 0 && w.from_minute <= 1439) << round;
+        ASSERT_TRUE(w.to_minute >= 0 && w.to_minute <= 1439) << round;
+      }
+    }
+    ASSERT_TRUE(config.language == L"auto" || config.language.find(L'-') != std::wstring::npos)
+        << round;
+    ASSERT_FALSE(config.settings_ui_state.minimized) << round;
+  }
+}
+
+}  // namespace
