@@ -16,6 +16,9 @@ set(STAYHOLD_PORTABLE_SOURCES
   i18n/locale_table.cpp
   i18n/localized.cpp
   setup/install_paths.cpp
+  tray/notice_text.cpp
+  tray/tray_text.cpp
+  update/update_state.cpp
   ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp
 )
 
@@ -28,6 +31,10 @@ set(STAYHOLD_WIN32_SOURCES
   guard/profile_store_win32.cpp
   guard/machine_registry_win32.cpp
   i18n/locale_system_win32.cpp
+  settings/settings_window_win32.cpp
   setup/setup_actions_win32.cpp
+  setup/shortcuts_win32.cpp
   tray/notice_win32.cpp
+  tray/tray_icon_win32.cpp
+  update/update_commands_win32.cpp
 )

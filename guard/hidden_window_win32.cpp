@@ -1,18 +1,62 @@
 #include "guard/hidden_window_win32.h"
 
+#include <shellapi.h>
+
+#include "guard/build_facts.h"
+#include "guard/config_store.h"
+#include "guard/guard_messages.h"
+#include "guard/guard_status.h"
 #include "guard/log.h"
+#include "guard/paths.h"
+#include "guard/session_end.h"
+#include "i18n/localized.h"
+#include "settings/settings_window_win32.h"
+#include "setup/shortcuts.h"
+#include "tray/notice.h"
+#include "tray/tray_icon_win32.h"
+#include "update/update_commands_win32.h"
 
 uint32_t exit_after_ms = 0;
 bool open_settings_at_start = false;
 HWND hidden_window = nullptr;
 UINT taskbar_created_message = 0;
+bool blocking_now = false;
+bool block_reason_registered = false;
+
+BlockReasonApi& ShutdownBlockReasonApi() {
+  static BlockReasonApi api = {&ShutdownBlockReasonCreate, &ShutdownBlockReasonDestroy};
+  return api;
+}
+
+void RefreshShutdownBlockReason() {
+  const GuardStatus status = EvaluateGuardStatus(AppConfig());
+  blocking_now = status.blocking;
+  // Taken down on every refresh, also when it is registered again at once.
+  if (block_reason_registered) {
+    ShutdownBlockReasonApi().destroy(hidden_window);
+    block_reason_registered = false;
+  }
+  if (!blocking_now) return;
+  // Looked up each time, so a change of language shows at the next refresh.
+  const std::wstring reason = Localized(
+      L"Stayhold blokuje plánovaný restart. Pro restart ukončete aplikaci nebo vypněte ochranu.",
+      L"Stayhold is blocking a planned restart. Exit or disable the guard to restart.");
+  // A failure is not logged: the refusal holds without the text.
+  block_reason_registered = ShutdownBlockReasonApi().create(hidden_window, reason.c_str()) != 0;
+}
 
 namespace {
 
+void NotifySettingsWindow() {
+  if (settings_window && IsWindow(settings_window)) {
+    PostMessageW(settings_window, kWmGuardStateChanged, 0, 0);
+  }
+}
+
 void StartTimers(HWND window) {
-  SetTimer(window, kTimerStart, 500, nullptr);
-  SetTimer(window, kTimerRefresh, 30000, nullptr);
-  SetTimer(window, kTimerUpdateCheck, 3600000, nullptr);
+  SetTimer(window, kTimerStart, kStartDelayMs, nullptr);
+  SetTimer(window, kTimerRefresh, kRefreshPeriodMs, nullptr);
+  SetTimer(window, kTimerUpdateCheck, kUpdateCheckPeriodMs, nullptr);
   if (exit_after_ms != 0) SetTimer(window, kTimerSelfExit, exit_after_ms, nullptr);
 }
 
@@ -20,10 +64,124 @@ void OnTimer(HWND window, UINT_PTR id) {
   switch (id) {
     case kTimerStart:
       KillTimer(window, kTimerStart);
+      AddTrayIcon();
+      RefreshGuardState();
+      if (exit_after_ms == 0) StartAutomaticUpdateCheck(window);
+      if (open_settings_at_start) PostMessageW(window, WM_COMMAND, kCmdSettings, 0);
       break;
     case kTimerSelfExit:
       KillTimer(window, kTimerSelfExit);
       DestroyWindow(window);
+      break;
+    case kTimerRefresh:
+      RefreshGuardState();
+      break;
+    case kTimerUpdateCheck:
+      if (exit_after_ms == 0) StartAutomaticUpdateCheck(window);
+      break;
+    default:
+      break;
+  }
+}
+
+LRESULT OnQueryEndSession(LPARAM l_param) {
+  // Answered from the last refresh, not re-evaluated: at most 30 seconds old.
+  if (SessionMayEnd(blocking_now, static_cast<uint32_t>(l_param))) return TRUE;
+  AppendLog(L"planned shutdown/restart blocked");
+  ShowTrayBalloon(Localized(L"Restart zablokován", L"Restart blocked"),
+                  Localized(L"Stayhold zablokoval plánované vypnutí nebo restart.",
+                            L"A planned shutdown or restart was blocked by Stayhold."),
+                  BalloonIcon::Warning);
+  return FALSE;
+}
+
+void ToggleGuard() {
+  StayholdConfig& config = AppConfig();
+  config.guard_enabled = !config.guard_enabled;
+  SaveConfig(config);
+  RefreshShutdownBlockReason();
+  UpdateTrayTooltip();
+  NotifySettingsWindow();
+  AppendLog(config.guard_enabled ? L"stayhold enabled" : L"stayhold disabled");
+}
+
+void ToggleStartup() {
+  const bool enable = !IsStartupShortcutPresent();
+  if (!SetStartupEnabled(enable)) {
+    ShowTrayBalloon(Localized(L"Změna spouštění se nezdařila", L"Startup update failed"),
+                    Localized(L"Zástupce pro spuštění po přihlášení se nepodařilo upravit.",
+                              L"The Startup shortcut could not be updated."),
+                    BalloonIcon::Error);
+    return;
+  }
+  ShowTrayBalloon(Localized(L"Spouštění aktualizováno", L"Startup updated"),
+                  enable ? Localized(L"Stayhold se spustí po přihlášení.",
+                                     L"Stayhold will start after sign-in.")
+                         : Localized(L"Stayhold se po přihlášení nespustí.",
+                                     L"Stayhold will not start after sign-in."),
+                  BalloonIcon::Information);
+}
+
+void ToggleDesktop() {
+  const bool enable = !IsDesktopShortcutPresent();
+  if (!SetDesktopShortcutEnabled(enable)) {
+    ShowTrayBalloon(
+        Localized(L"Změna zástupce na ploše se nezdařila", L"Desktop shortcut update failed"),
+        Localized(L"Zástupce na ploše se nepodařilo upravit.",
+                  L"The desktop shortcut could not be updated."),
+        BalloonIcon::Error);
+    return;
+  }
+  ShowTrayBalloon(Localized(L"Zástupce na ploše aktualizován", L"Desktop shortcut updated"),
+                  enable
+                      ? Localized(L"Zástupce na ploše byl vytvořen.", L"Desktop shortcut created.")
+                      : Localized(L"Zástupce na ploše byl odebrán.", L"Desktop shortcut removed."),
+                  BalloonIcon::Information);
+}
+
+void OnCommand(HWND window, unsigned id) {
+  HINSTANCE instance = GetModuleHandleW(nullptr);
+  switch (id) {
+    case kCmdToggleGuard:
+      ToggleGuard();
+      break;
+    case kCmdOpenWindowsUpdate:
+      AppendLog(L"open windows update settings");
+      ShellExecuteW(nullptr, L"open", L"ms-settings:windowsupdate", nullptr, nullptr,
+                    SW_SHOWNORMAL);
+      break;
+    case kCmdToggleStartup:
+      ToggleStartup();
+      break;
+    case kCmdToggleDesktop:
+      ToggleDesktop();
+      break;
+    case kCmdExit:
+      AppendLog(L"tray exit requested");
+      if (ConfirmStayholdExit(instance, window)) DestroyWindow(window);
+      break;
+    case kCmdSettings:
+      OpenOrRaiseSettingsDialog(window);
+      RefreshGuardState();
+      break;
+    case kCmdHelp:
+      ShowStayholdHelpNotice(instance, window, TrayHelpTitle(), TrayHelpText());
+      break;
+    case kCmdLogs:
+      OpenLogsFolder();
+      break;
+    case kCmdAbout:
+      ShowStayholdAboutNotice(instance, window);
+      break;
+    case kCmdCheckUpdates:
+      StartManualUpdateCheck(window);
+      break;
+    case kCmdInstallUpdate:
+      if (std::optional<UpdateManifest> update = GetAvailableUpdate()) {
+        ShowStayholdAutoUpdateDialog(window, *update);
+      } else {
+        StartManualUpdateCheck(window);
+      }
       break;
     default:
       break;
@@ -32,15 +190,36 @@ void OnTimer(HWND window, UINT_PTR id) {
 
 }  // namespace
 
+void RefreshGuardState() {
+  RefreshShutdownBlockReason();
+  UpdateTrayTooltip();
+  NotifySettingsWindow();
+}
+
 LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPARAM l_param) {
   // The registered message is no constant, so it is tested before the switch.
-  if (taskbar_created_message != 0 && message == taskbar_created_message) return 0;
+  if (taskbar_created_message != 0 && message == taskbar_created_message) {
+    AddTrayIcon();
+    UpdateTrayTooltip();
+    return 0;
+  }
   switch (message) {
     case WM_CREATE:
       StartTimers(window);
       return 0;
     case WM_TIMER:
       OnTimer(window, w_param);
+      return 0;
+    case WM_QUERYENDSESSION:
+      return OnQueryEndSession(l_param);
+    case WM_COMMAND:
+      OnCommand(window, LOWORD(w_param));
+      return 0;
+    case kWmTrayCallback:
+      HandleTrayCallback(window, l_param);
+      return 0;
+    case kWmUpdateCheckDone:
+      HandleUpdateCheckDone(window);
       return 0;
     case WM_CLOSE:
       // The update installer and any outside WM_CLOSE end the guard with no question.
@@ -49,10 +228,36 @@ LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPA
     case WM_DESTROY:
       KillTimer(window, kTimerUpdateCheck);
       KillTimer(window, kTimerRefresh);
+      if (block_reason_registered) {
+        ShutdownBlockReasonApi().destroy(window);
+        block_reason_registered = false;
+      }
+      RemoveTrayIcon();
       AppendLog(L"app shutdown");
       PostQuitMessage(0);
       return 0;
     default:
+      // WM_ENDSESSION included: the guard does not prepare to die with the session.
       return DefWindowProcW(window, message, w_param, l_param);
   }
+}
+
+bool RegisterHiddenWindowClass(HINSTANCE instance) {
+  WNDCLASSEXW window_class = {};
+  window_class.cbSize = sizeof(window_class);
+  window_class.lpfnWndProc = HiddenWindowProc;
+  window_class.hInstance = instance;
+  window_class.hIcon = static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(kApplicationIconId),
+                                                     IMAGE_ICON, GetSystemMetrics(SM_CXICON),
+                                                     GetSystemMetrics(SM_CYICON), LR_SHARED));
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  window_class.lpszClassName = kHiddenWindowClass;
+  return RegisterClassExW(&window_class) != 0;
+}
+
+HWND CreateHiddenWindow(HINSTANCE instance) {
+  // A real top-level window, never shown: Windows asks only top-level windows before a shutdown,
+  // and a message-only window would not be asked.
+  return CreateWindowExW(WS_EX_TOOLWINDOW, kHiddenWindowClass, kHiddenWindowTitle, WS_POPUP, 0, 0,
+                         1, 1, nullptr, nullptr, instance, nullptr);
 }

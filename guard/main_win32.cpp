@@ -9,6 +9,7 @@
 
 #include "guard/build_facts.h"
 #include "guard/config.h"
+#include "guard/config_store.h"
 #include "guard/hidden_window_win32.h"
 #include "guard/log.h"
 #include "guard/paths.h"
@@ -86,22 +87,12 @@ int RunGuard(HINSTANCE instance) {
   if (GetLastError() == ERROR_ALREADY_EXISTS) return RunSecondInstance(mutex, instance);
 
   taskbar_created_message = RegisterWindowMessageW(kTaskbarCreatedMessageName);
-
-  WNDCLASSEXW window_class = {};
-  window_class.cbSize = sizeof(window_class);
-  window_class.lpfnWndProc = HiddenWindowProc;
-  window_class.hInstance = instance;
-  window_class.hIcon = LoadApplicationIcon(instance, SM_CXICON, SM_CYICON);
-  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  window_class.lpszClassName = kHiddenWindowClass;
-  if (!RegisterClassExW(&window_class)) {
+  if (!RegisterHiddenWindowClass(instance)) {
     CloseHandle(mutex);
     return kExitFailure;
   }
-
-  // A real top-level window, never shown: Windows only asks top-level windows before a shutdown.
-  HWND window = CreateWindowExW(WS_EX_TOOLWINDOW, kHiddenWindowClass, kHiddenWindowTitle, WS_POPUP,
-                                0, 0, 1, 1, nullptr, nullptr, instance, nullptr);
+  // WM_CREATE runs inside and starts the timers; protection begins 500 ms later.
+  HWND window = CreateHiddenWindow(instance);
   if (!window) {
     AppendLog(L"app startup failed: hidden window creation failed");
     CloseHandle(mutex);
@@ -131,7 +122,7 @@ int RunGuard(HINSTANCE instance) {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR command_line, int) {
   const StartupOptions options = ParseStartupOptions(command_line);
   exit_after_ms = options.exit_after_ms;
-  AppConfig() = StayholdConfig();
+  AppConfig() = LoadConfig();
   open_settings_at_start = options.settings;
   const std::wstring install_dir = InstallDirFromArguments();
   SetCurrentProcessExplicitAppUserModelID(kAppUserModelId);
@@ -150,7 +141,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR command_line, int) {
                           true);
       return kExitInstallFailed;
     case StartupRole::EnsureConfig:
-      return kExitFailure;
+      return SaveConfig(LoadConfig()) ? kExitOk : kExitFailure;
     case StartupRole::SetupDialog:
       return RunSetupDialog(instance);
     case StartupRole::Guard:

@@ -22,8 +22,8 @@ class Win32ProfileStore final : public ProfileStore {
  public:
   int ReadInt(const std::wstring& path, const std::wstring& section, const std::wstring& key,
               int fallback) override {
-    return static_cast<int>(GetPrivateProfileIntW(section.c_str(), key.c_str(), fallback,
-                                                  path.c_str()));
+    return static_cast<int>(
+        GetPrivateProfileIntW(section.c_str(), key.c_str(), fallback, path.c_str()));
   }
 
   std::wstring ReadString(const std::wstring& path, const std::wstring& section,
@@ -34,11 +34,11 @@ class Win32ProfileStore final : public ProfileStore {
     return std::wstring(buffer, length);
   }
 
-  bool WriteString(const std::wstring& path, const std::wstring& section,
-                   const std::wstring& key, const std::wstring& value) override {
+  bool WriteString(const std::wstring& path, const std::wstring& section, const std::wstring& key,
+                   const std::wstring& value) override {
     EnsureUnicodeFile(path);
-    return WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(),
-                                      path.c_str()) != 0;
+    return WritePrivateProfileStringW(section.c_str(), key.c_str(), value.c_str(), path.c_str()) !=
+           0;
   }
 
   bool DeleteKey(const std::wstring& path, const std::wstring& section,

@@ -12,7 +12,9 @@ namespace {
 
 using File = MemoryProfileStore::File;
 
-std::wstring Path() { return ConfigFilePath(); }
+std::wstring Path() {
+  return ConfigFilePath();
+}
 
 const std::wstring* Value(const wchar_t* section, const wchar_t* key) {
   return MemoryStore().Find(Path(), section, key);
@@ -44,8 +46,8 @@ TEST(ParseWindowValue, ScansFourNumbersAndClamps) {
       {L"0,6,1380,60", {false, 6, 1380, 60}},
       {L"7,9,9999,-5", {true, 6, 1439, 0}},
       {L"-1,-3,-10,2000", {true, 0, 0, 1439}},
-      {L" 1, 2, 3, 4", {true, 2, 3, 4}},      // %d skips white space before a number
-      {L"1 ,2,3,4", fallback},                 // but a comma must follow at once
+      {L" 1, 2, 3, 4", {true, 2, 3, 4}},  // %d skips white space before a number
+      {L"1 ,2,3,4", fallback},            // but a comma must follow at once
       {L"1,2,3,4 trailing text", {true, 2, 3, 4}},
       {L"1,2,3,4,5", {true, 2, 3, 4}},
       {L"1,2,3", fallback},
@@ -55,7 +57,8 @@ TEST(ParseWindowValue, ScansFourNumbersAndClamps) {
       {L"+1,+2,+3,+4", {true, 2, 3, 4}},
       {L"0,1,99999999999999,5", {false, 1, 1439, 5}},
   };
-  for (const auto& c : cases) EXPECT_TRUE(ParseWindowValue(c.text) == c.window) << c.text;
+  for (const auto& c : cases)
+    EXPECT_TRUE(ParseWindowValue(c.text) == c.window) << c.text;
 }
 
 TEST(NormalizeUiPerformanceProfile, MapsEverySpelling) {
@@ -63,16 +66,24 @@ TEST(NormalizeUiPerformanceProfile, MapsEverySpelling) {
     const wchar_t* in;
     const wchar_t* out;
   } cases[] = {
-      {L"best", L"best-graphics"},         {L" Best_Graphics ", L"best-graphics"},
-      {L"max-detail", L"best-graphics"},   {L"MAX_DETAILS", L"best-graphics"},
-      {L"maximum-detail", L"best-graphics"}, {L"maximum-details", L"best-graphics"},
-      {L"max-detaily", L"best-graphics"},  {L"maximum-performance", L"maximum-performance"},
-      {L"max_performance", L"maximum-performance"}, {L"max-vykon", L"maximum-performance"},
-      {L"Performance", L"maximum-performance"}, {L"balanced", L"balanced"},
-      {L"", L"balanced"},                  {L"fast", L"balanced"},
+      {L"best", L"best-graphics"},
+      {L" Best_Graphics ", L"best-graphics"},
+      {L"max-detail", L"best-graphics"},
+      {L"MAX_DETAILS", L"best-graphics"},
+      {L"maximum-detail", L"best-graphics"},
+      {L"maximum-details", L"best-graphics"},
+      {L"max-detaily", L"best-graphics"},
+      {L"maximum-performance", L"maximum-performance"},
+      {L"max_performance", L"maximum-performance"},
+      {L"max-vykon", L"maximum-performance"},
+      {L"Performance", L"maximum-performance"},
+      {L"balanced", L"balanced"},
+      {L"", L"balanced"},
+      {L"fast", L"balanced"},
       {L"best graphics", L"balanced"},
   };
-  for (const auto& c : cases) EXPECT_EQ(NormalizeUiPerformanceProfile(c.in), c.out) << c.in;
+  for (const auto& c : cases)
+    EXPECT_EQ(NormalizeUiPerformanceProfile(c.in), c.out) << c.in;
 }
 
 TEST(NormalizeConfig, RepairsEveryField) {
@@ -138,10 +149,9 @@ TEST(LoadConfig, FirstStartCreatesTheFile) {
 }
 
 TEST(LoadConfig, LegacyLayoutIsMigratedAtTheFirstStart) {
-  MemoryStore().Put(Path(), File{{L"general", {{L"manual_blocking_enabled", L"0"}}},
-                                 {L"windows", {{L"count", L"2"},
-                                               {L"item0", L"1,4,780,1020"},
-                                               {L"item1", L""}}}});
+  MemoryStore().Put(
+      Path(), File{{L"general", {{L"manual_blocking_enabled", L"0"}}},
+                   {L"windows", {{L"count", L"2"}, {L"item0", L"1,4,780,1020"}, {L"item1", L""}}}});
   const StayholdConfig config = LoadConfig();
   EXPECT_FALSE(config.guard_enabled);
   ASSERT_EQ(config.profiles.size(), 1u);
@@ -177,11 +187,12 @@ TEST(LoadConfig, NewerSwitchWinsOverTheOlderOne) {
 
 TEST(LoadConfig, WindowValuesBlankAreDroppedBadAreDefaulted) {
   MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}},
-                                 {L"profile0", {{L"name", L" Night "},
-                                                {L"windows_count", L"4"},
-                                                {L"window0", L"garbage"},
-                                                {L"window1", L"   "},
-                                                {L"window2", L"7,9,9999,-5"}}}});
+                                 {L"profile0",
+                                  {{L"name", L" Night "},
+                                   {L"windows_count", L"4"},
+                                   {L"window0", L"garbage"},
+                                   {L"window1", L"   "},
+                                   {L"window2", L"7,9,9999,-5"}}}});
   const StayholdConfig config = LoadConfig();
   ASSERT_EQ(config.profiles.size(), 1u);
   EXPECT_EQ(config.profiles[0].name, L"Night");
@@ -201,20 +212,30 @@ TEST(LoadConfig, DamagedCountsAndIndices) {
       {"count beyond the sections gives unnamed empty profiles",
        {{L"profiles", {{L"count", L"3"}, {L"active_index", L"2"}}},
         {L"profile0", {{L"name", L"A"}, {L"windows_count", L"1"}, {L"window0", L"1,1,1,2"}}}},
-       3, 2, 1},
+       3,
+       2,
+       1},
       {"negative windows count reads as none",
        {{L"profiles", {{L"count", L"1"}}}, {L"profile0", {{L"windows_count", L"-4"}}}},
-       1, 0, 0},
+       1,
+       0,
+       0},
       {"active index too large is clamped",
        {{L"profiles", {{L"count", L"2"}, {L"active_index", L"7"}}}},
-       2, 1, 0},
+       2,
+       1,
+       0},
       {"negative active index is clamped",
        {{L"profiles", {{L"count", L"2"}, {L"active_index", L"-1"}}}},
-       2, 0, 0},
+       2,
+       0,
+       0},
       {"negative profile count takes the legacy branch",
        {{L"profiles", {{L"count", L"-2"}}},
         {L"windows", {{L"count", L"1"}, {L"item0", L"0,3,0,60"}}}},
-       1, 0, 1},
+       1,
+       0,
+       1},
   };
   for (const auto& c : cases) {
     ResetFakePlatform();
@@ -263,7 +284,8 @@ TEST(SaveConfig, ShrinkingRemovesStaleSectionsAndKeys) {
   StayholdConfig config;
   for (int p = 0; p < 5; ++p) {
     BehaviorProfile profile{L"P" + std::to_wstring(p), {}};
-    for (int w = 0; w < 4; ++w) profile.windows.push_back(RestartWindow{true, w, 60, 120});
+    for (int w = 0; w < 4; ++w)
+      profile.windows.push_back(RestartWindow{true, w, 60, 120});
     config.profiles.push_back(profile);
   }
   ASSERT_TRUE(SaveConfig(config));
@@ -310,9 +332,8 @@ TEST(SaveConfig, RoundTripKeepsEverything) {
                      BehaviorProfile{L"週末 🌙", {{false, 6, 1380, 60}, {true, 5, 0, 0}}}};
   config.has_settings_ui_state = true;
   config.settings_ui_state = WindowUiState{-20, 30, 900, 640, 3, true, false, {}};
-  config.settings_ui_state.controls.push_back(
-      ControlUiState{L"settings-window-table", 1, 2, 300, 200, L"table", true, true,
-                     {L"120", L"80", L"80"}});
+  config.settings_ui_state.controls.push_back(ControlUiState{
+      L"settings-window-table", 1, 2, 300, 200, L"table", true, true, {L"120", L"80", L"80"}});
   ASSERT_TRUE(SaveConfig(config));
   const StayholdConfig loaded = LoadConfig();
   EXPECT_EQ(loaded.guard_enabled, false);
@@ -345,24 +366,34 @@ TEST(UiState, ReadRules) {
     size_t kept;
   } cases[] = {
       {"schema 0 means no state",
-       {{L"schema_version", L"0"}, {L"window_width", L"800"}}, {}, false, 0},
+       {{L"schema_version", L"0"}, {L"window_width", L"800"}},
+       {},
+       false,
+       0},
       {"no schema means no state", {{L"window_width", L"800"}}, {}, false, 0},
       {"a size makes a state", {{L"schema_version", L"1"}, {L"window_height", L"5"}}, {}, true, 0},
       {"nothing positive and no control: none",
-       {{L"schema_version", L"1"}, {L"window_width", L"-5"}}, {}, false, 0},
+       {{L"schema_version", L"1"}, {L"window_width", L"-5"}},
+       {},
+       false,
+       0},
       {"a kept control alone makes a state",
        {{L"schema_version", L"1"}, {L"control_count", L"1"}},
-       {{L"ui_state.settings.control0", {{L"id", L"settings-window-scroll"}}}}, true, 1},
+       {{L"ui_state.settings.control0", {{L"id", L"settings-window-scroll"}}}},
+       true,
+       1},
       {"other controls and missing sections are dropped",
        {{L"schema_version", L"1"}, {L"control_count", L"4"}, {L"window_width", L"600"}},
        {{L"ui_state.settings.control0", {{L"id", L"settings-window-name"}}},
         {L"ui_state.settings.control1", {{L"id", L"settings-window-table"}}}},
-       true, 1},
+       true,
+       1},
   };
   for (const auto& c : cases) {
     ResetFakePlatform();
     File file{{L"ui_state.settings", c.window}};
-    for (const auto& control : c.controls) file.push_back(control);
+    for (const auto& control : c.controls)
+      file.push_back(control);
     MemoryStore().Put(Path(), file);
     const std::optional<WindowUiState> state = ReadUiState(MemoryStore(), Path());
     EXPECT_EQ(state.has_value(), c.present) << c.what;
@@ -397,17 +428,46 @@ TEST(SaveConfig, UiStateIsWrittenOnlyWhenPresent) {
 // Random damage of every kind must still load into a configuration the guard can rely on.
 TEST(LoadConfig, RandomlyDamagedFilesAlwaysSatisfyTheInvariants) {
   std::mt19937 random(20261122);
-  const std::vector<std::wstring> sections = {L"general", L"profiles", L"windows", L"profile0",
-                                              L"profile1", L"profile2", L"ui_state.settings"};
-  const std::vector<std::wstring> keys = {
-      L"guard_enabled", L"manual_blocking_enabled", L"language", L"skin_id",
-      L"ui_performance_profile", L"count", L"active_index", L"name", L"windows_count",
-      L"window0", L"window1", L"window2", L"item0", L"item1", L"schema_version",
-      L"window_width", L"control_count", L"show_command"};
-  const std::vector<std::wstring> values = {
-      L"", L"0", L"1", L"-1", L"3", L"99999999999", L"-2147483648", L"garbage", L"1,2,3,4",
-      L"7,9,9999,-5", L"0,6,1380,60", L"1,-8,,", L"  ", L"auto", L"xx", L"sr_latn",
-      L"\x0416\x05D0", L"1,3,1439,1439 tail", L"2147483647"};
+  const std::vector<std::wstring> sections = {L"general",          L"profiles", L"windows",
+                                              L"profile0",         L"profile1", L"profile2",
+                                              L"ui_state.settings"};
+  const std::vector<std::wstring> keys = {L"guard_enabled",
+                                          L"manual_blocking_enabled",
+                                          L"language",
+                                          L"skin_id",
+                                          L"ui_performance_profile",
+                                          L"count",
+                                          L"active_index",
+                                          L"name",
+                                          L"windows_count",
+                                          L"window0",
+                                          L"window1",
+                                          L"window2",
+                                          L"item0",
+                                          L"item1",
+                                          L"schema_version",
+                                          L"window_width",
+                                          L"control_count",
+                                          L"show_command"};
+  const std::vector<std::wstring> values = {L"",
+                                            L"0",
+                                            L"1",
+                                            L"-1",
+                                            L"3",
+                                            L"99999999999",
+                                            L"-2147483648",
+                                            L"garbage",
+                                            L"1,2,3,4",
+                                            L"7,9,9999,-5",
+                                            L"0,6,1380,60",
+                                            L"1,-8,,",
+                                            L"  ",
+                                            L"auto",
+                                            L"xx",
+                                            L"sr_latn",
+                                            L"\x0416\x05D0",
+                                            L"1,3,1439,1439 tail",
+                                            L"2147483647"};
   const auto pick = [&](const auto& list) { return list[random() % list.size()]; };
   for (int round = 0; round < 10000; ++round) {
     ResetFakePlatform();
@@ -416,7 +476,8 @@ TEST(LoadConfig, RandomlyDamagedFilesAlwaysSatisfyTheInvariants) {
     for (int s = 0; s < section_count; ++s) {
       MemoryProfileStore::Section section;
       const int key_count = static_cast<int>(random() % 8);
-      for (int k = 0; k < key_count; ++k) section.push_back({pick(keys), pick(values)});
+      for (int k = 0; k < key_count; ++k)
+        section.push_back({pick(keys), pick(values)});
       file.push_back({pick(sections), section});
     }
     MemoryStore().Put(Path(), file);

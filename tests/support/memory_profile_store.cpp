@@ -48,7 +48,8 @@ int MemoryProfileStore::ReadInt(const std::wstring& path, const std::wstring& se
   if (!value) return fallback;
   // The leading decimal number, with an optional sign; 0 when there is none.
   size_t at = 0;
-  while (at < value->size() && std::iswspace(static_cast<wint_t>((*value)[at]))) ++at;
+  while (at < value->size() && std::iswspace(static_cast<wint_t>((*value)[at])))
+    ++at;
   bool negative = false;
   if (at < value->size() && ((*value)[at] == L'-' || (*value)[at] == L'+')) {
     negative = (*value)[at++] == L'-';
@@ -61,10 +62,8 @@ int MemoryProfileStore::ReadInt(const std::wstring& path, const std::wstring& se
   return static_cast<int>(static_cast<unsigned>(negative ? -number : number));
 }
 
-std::wstring MemoryProfileStore::ReadString(const std::wstring& path,
-                                            const std::wstring& section,
-                                            const std::wstring& key,
-                                            const std::wstring& fallback) {
+std::wstring MemoryProfileStore::ReadString(const std::wstring& path, const std::wstring& section,
+                                            const std::wstring& key, const std::wstring& fallback) {
   const std::wstring* value = Find(path, section, key);
   std::wstring text = value ? *value : fallback;
   if (text.size() > kIniTextBufferChars - 1) text.resize(kIniTextBufferChars - 1);

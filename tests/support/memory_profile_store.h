@@ -22,8 +22,8 @@ class MemoryProfileStore final : public ProfileStore {
               int fallback) override;
   std::wstring ReadString(const std::wstring& path, const std::wstring& section,
                           const std::wstring& key, const std::wstring& fallback) override;
-  bool WriteString(const std::wstring& path, const std::wstring& section,
-                   const std::wstring& key, const std::wstring& value) override;
+  bool WriteString(const std::wstring& path, const std::wstring& section, const std::wstring& key,
+                   const std::wstring& value) override;
   bool DeleteKey(const std::wstring& path, const std::wstring& section,
                  const std::wstring& key) override;
   bool DeleteSection(const std::wstring& path, const std::wstring& section) override;

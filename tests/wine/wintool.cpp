@@ -5,6 +5,9 @@
 //   wintool send CLASS MSG WPARAM LPARAM [MS]   SendMessageTimeoutW; prints "result=N"
 //   wintool post CLASS MSG WPARAM LPARAM        PostMessageW
 //   wintool wait-gone CLASS TIMEOUT_MS          exit 0 once no window of the class exists
+//   wintool send-first CLASS MSG WPARAM LPARAM TIMEOUT_MS
+//                                               waits for the window, sends at once; prints
+//                                               "result=N" and "after_found_ms=N"
 #include <windows.h>
 
 #include <cstdio>
@@ -111,6 +114,31 @@ int Send(int argc, wchar_t** argv, bool post) {
   return 0;
 }
 
+// Sends as soon as the window exists, for what happens in its first moments.
+int SendFirst(int argc, wchar_t** argv) {
+  if (argc < 7) return 2;
+  const ULONGLONG end = GetTickCount64() + Number(argv[6]);
+  HWND window = nullptr;
+  while (!(window = FindWindowW(argv[2], nullptr))) {
+    if (GetTickCount64() > end) {
+      std::wprintf(L"absent\n");
+      return 1;
+    }
+    Sleep(1);
+  }
+  const ULONGLONG found = GetTickCount64();
+  DWORD_PTR result = 0;
+  if (!SendMessageTimeoutW(window, static_cast<UINT>(Number(argv[3])),
+                           static_cast<WPARAM>(Number(argv[4])),
+                           static_cast<LPARAM>(Number(argv[5])), SMTO_ABORTIFHUNG, 5000, &result)) {
+    std::wprintf(L"send-failed=%lu\n", GetLastError());
+    return 1;
+  }
+  std::wprintf(L"result=%llu\nafter_found_ms=%llu\n", static_cast<unsigned long long>(result),
+               GetTickCount64() - found);
+  return 0;
+}
+
 int WaitGone(const wchar_t* window_class, DWORD timeout) {
   const ULONGLONG end = GetTickCount64() + timeout;
   while (FindWindowW(window_class, nullptr)) {
@@ -134,6 +162,8 @@ int wmain(int argc, wchar_t** argv) {
     result = Send(argc, argv, false);
   else if (verb == L"post")
     result = Send(argc, argv, true);
+  else if (verb == L"send-first")
+    result = SendFirst(argc, argv);
   else if (verb == L"wait-gone" && argc > 3)
     result = WaitGone(argv[2], Number(argv[3]));
   std::fflush(stdout);

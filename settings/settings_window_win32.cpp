@@ -1,0 +1,24 @@
+#include "settings/settings_window_win32.h"
+
+#include "i18n/localized.h"
+#include "tray/notice.h"
+
+HWND settings_window = nullptr;
+
+void OpenOrRaiseSettingsDialog(HWND owner) {
+  if (settings_window && IsWindow(settings_window)) {
+    ShowWindow(settings_window, IsIconic(settings_window) ? SW_RESTORE : SW_SHOWNORMAL);
+    BringWindowToTop(settings_window);
+    SetForegroundWindow(settings_window);
+    SetActiveWindow(settings_window);
+    return;
+  }
+  settings_window = nullptr;
+  // The skinned settings dialog is not part of this build yet; say so instead of doing nothing.
+  ShowStayholdHelpNotice(
+      GetModuleHandleW(nullptr), owner, Localized(L"Nastavení Stayhold", L"Stayhold Settings"),
+      Localized(L"Okno nastavení v tomto sestavení zatím není. Profily a okna pro restart lze "
+                L"zatím upravit v souboru config.ini.",
+                L"The settings window is not part of this build yet. Profiles and restart windows "
+                L"can be edited in config.ini for now."));
+}
