@@ -124,6 +124,7 @@ win_exit_code() {
   case "$out" in
     exit=*) echo "${out#exit=}" ;;
     timeout) echo timeout ;;
+    "") echo "no-answer" ;;  # the helper itself was ended, as at a suite's clean-up
     *) fail "could not start $* ($out)" ;;
   esac
 }
