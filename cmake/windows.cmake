@@ -31,7 +31,7 @@ function(stayhold_executable target exe_base description)
   add_dependencies(${target} stayhold_icon)
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ${exe_base})
   target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})
-  target_link_options(${target} PRIVATE -municode)
+  target_link_options(${target} PRIVATE -municode $<$<CONFIG:Release>:-s>)
   target_link_libraries(${target} PRIVATE stayhold_win32)
 endfunction()
 
