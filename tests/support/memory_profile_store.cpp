@@ -2,19 +2,14 @@
 
 #include <cwctype>
 
+#include "i18n/locale_system.h"
 #include "tests/support/fake_platform.h"
 
 namespace {
 
 // Section and key names compare without case, as the profile functions do.
 bool SameName(const std::wstring& a, const std::wstring& b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i) {
-    if (std::towlower(static_cast<wint_t>(a[i])) != std::towlower(static_cast<wint_t>(b[i]))) {
-      return false;
-    }
-  }
-  return true;
+  return EqualsOrdinalIgnoreCase(a, b);
 }
 
 template <typename List>
