@@ -18,7 +18,11 @@ set(STAYHOLD_PORTABLE_SOURCES
   setup/install_paths.cpp
   tray/notice_text.cpp
   tray/tray_text.cpp
+  update/manifest_reader.cpp
+  update/update_check.cpp
+  update/update_install.cpp
   update/update_state.cpp
+  update/version_compare.cpp
   ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp
 )
 
@@ -36,5 +40,7 @@ set(STAYHOLD_WIN32_SOURCES
   setup/shortcuts_win32.cpp
   tray/notice_win32.cpp
   tray/tray_icon_win32.cpp
+  update/http_get_win32.cpp
   update/update_commands_win32.cpp
+  update/update_fetch_win32.cpp
 )

@@ -221,6 +221,9 @@ LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPA
     case kWmUpdateCheckDone:
       HandleUpdateCheckDone(window);
       return 0;
+    case kWmUpdateInstallProgress:
+      HandleUpdateInstallProgress(window);
+      return 0;
     case WM_CLOSE:
       // The update installer and any outside WM_CLOSE end the guard with no question.
       DestroyWindow(window);

@@ -1,12 +1,41 @@
-// What the hidden window asks of the self-update: automatic and manual checks, the result of a
-// finished check, and the dialog that installs a known update.
+// What the hidden window asks of the self-update: automatic and manual checks on a worker, the
+// reception of a finished check, the result notice, and the install of a known update.
 #pragma once
 
 #include <windows.h>
 
-#include "update/update_manifest.h"
+#include <memory>
+#include <string>
 
+#include "update/update_check.h"
+#include "update/update_install.h"
+
+// False when `window` is null or a check is already running.
+bool StartUpdateCheck(HWND window, bool manual);
 void StartAutomaticUpdateCheck(HWND window);
 void StartManualUpdateCheck(HWND window);
+// WM_UPDATE_CHECK_DONE: take the result, keep or clear the offered update, tell the user if asked.
 void HandleUpdateCheckDone(HWND window);
+void ShowStayholdUpdateResultNotice(HWND owner, const UpdateCheckResult& result);
 void ShowStayholdAutoUpdateDialog(HWND owner, const UpdateManifest& manifest);
+// WM_UPDATE_INSTALL_PROGRESS of the install worker.
+void HandleUpdateInstallProgress(HWND window);
+
+// The install worker's services on this platform; progress goes to `progress_window`.
+class SystemUpdateInstallServices final : public UpdateInstallServices {
+ public:
+  SystemUpdateInstallServices(HWND progress_window, std::wstring manifest_url)
+      : progress_window_(progress_window), manifest_url_(std::move(manifest_url)) {}
+  UpdateCheckResult RefreshManifest() override;
+  void PublishCheckResult(const UpdateCheckResult& result) override;
+  std::wstring TempFolder() override;
+  bool DownloadSetup(const std::wstring& url, const std::wstring& target,
+                     const std::function<void(int)>& progress, std::wstring& error) override;
+  bool HashFileSha256(const std::wstring& path, std::wstring& hex, std::wstring& error) override;
+  bool LaunchSilentSetup(const std::wstring& setup_path, std::wstring& error) override;
+  void NotifyProgress() override;
+
+ private:
+  HWND progress_window_;
+  std::wstring manifest_url_;
+};

@@ -3,6 +3,7 @@
 #include <cwctype>
 
 #include "guard/log.h"
+#include "update/update_check.h"
 #include "i18n/locale_system.h"
 #include "tests/support/fake_machine_registry.h"
 #include "tests/support/memory_profile_store.h"
@@ -131,4 +132,18 @@ bool EqualsOrdinalIgnoreCase(const std::wstring& a, const std::wstring& b) {
 
 void AppendLog(const std::wstring& message) {
   Fake().log.push_back(message);
+}
+
+bool FetchUpdateManifest(const std::wstring& url, std::wstring& text, std::wstring& error) {
+  auto found = Fake().http.find(url);
+  if (found == Fake().http.end()) {
+    error = L"Update manifest request failed.";
+    return false;
+  }
+  if (!found->second.ok) {
+    error = found->second.error;
+    return false;
+  }
+  text = found->second.text;
+  return true;
 }

@@ -10,6 +10,12 @@
 #include "guard/file_system.h"
 #include "guard/local_time.h"
 
+struct FakeHttpResponse {
+  bool ok = true;
+  std::wstring text;
+  std::wstring error;
+};
+
 struct FakePlatform {
   LocalTime now;
   std::wstring ui_locale = L"en-US";
@@ -30,6 +36,7 @@ struct FakePlatform {
   std::vector<std::wstring> created_directories;
   bool directories_fail = false;  // CreateDirectoryTree reports an error
   std::vector<std::wstring> log;
+  std::map<std::wstring, FakeHttpResponse> http;  // url -> what a fetch gets
 };
 
 // Reset to the defaults above before each test.

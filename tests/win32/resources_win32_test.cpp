@@ -90,8 +90,8 @@ TEST_P(ExecutableTest, CarriesTheManifestAndTheIcon) {
   }
   EXPECT_EQ(sizes, (std::vector<int>{16, 20, 24, 32, 48, 256}));
   for (int size : {16, 32, 256}) {
-    HICON icon = static_cast<HICON>(
-        LoadImageW(module, MAKEINTRESOURCEW(101), IMAGE_ICON, size, size, 0));
+    HICON icon =
+        static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(101), IMAGE_ICON, size, size, 0));
     EXPECT_NE(icon, nullptr) << size;
     if (icon) DestroyIcon(icon);
   }
