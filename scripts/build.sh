@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Configures and builds both trees: build/native (portable code, tests, benchmarks) and
 # build/windows (Stayhold.exe, StayholdSetup.exe and the Windows test programs).
-# Usage: scripts/build.sh [native|windows|all]
+# A third tree, build/fuzz, holds the libFuzzer targets built with clang (not part of "all").
+# Usage: scripts/build.sh [native|windows|fuzz|all]
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 which=${1:-all}
@@ -11,6 +12,11 @@ if [ "$which" = native ] || [ "$which" = all ]; then
   cmake -S "$root" -B "$root/build/native" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DSTAYHOLD_WERROR=ON >/dev/null
   cmake --build "$root/build/native" -j "$jobs"
+fi
+if [ "$which" = fuzz ]; then
+  cmake -S "$root" -B "$root/build/fuzz" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DSTAYHOLD_FUZZ=ON >/dev/null
+  cmake --build "$root/build/fuzz" -j "$jobs"
 fi
 if [ "$which" = windows ] || [ "$which" = all ]; then
   cmake -S "$root" -B "$root/build/windows" -G Ninja -DCMAKE_BUILD_TYPE=Release \

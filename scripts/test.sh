@@ -59,6 +59,8 @@ step "native build" build_step native
 step "native tests" ctest_suite build/native
 step "windows build" build_step windows
 step "windows tests under wine" ctest_suite build/windows
+step "fuzz build" build_step fuzz
+step "fuzzing" ctest_suite build/fuzz
 step "formatting" format_check
 
 echo

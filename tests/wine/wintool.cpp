@@ -5,10 +5,12 @@
 //   wintool send CLASS MSG WPARAM LPARAM [MS]   SendMessageTimeoutW; prints "result=N"
 //   wintool post CLASS MSG WPARAM LPARAM        PostMessageW
 //   wintool wait-gone CLASS TIMEOUT_MS          exit 0 once no window of the class exists
+//   wintool add-root-cert FILE.der               trusts a certificate for HTTPS (machine ROOT)
 //   wintool send-first CLASS MSG WPARAM LPARAM TIMEOUT_MS
 //                                               waits for the window, sends at once; prints
 //                                               "result=N" and "after_found_ms=N"
 #include <windows.h>
+#include <wincrypt.h>
 
 #include <cstdio>
 #include <cwchar>
@@ -114,6 +116,21 @@ int Send(int argc, wchar_t** argv, bool post) {
   return 0;
 }
 
+int AddRootCertificate(const wchar_t* path) {
+  FILE* file = _wfopen(path, L"rb");
+  if (!file) return 1;
+  std::string der;
+  char buffer[4096];
+  size_t read;
+  while ((read = std::fread(buffer, 1, sizeof(buffer), file)) > 0)
+    der.append(buffer, read);
+  std::fclose(file);
+  const BOOL ok = CertAddEncodedCertificateToSystemStoreW(
+      L"ROOT", reinterpret_cast<const BYTE*>(der.data()), static_cast<DWORD>(der.size()));
+  std::wprintf(ok ? L"added\n" : L"failed=%lu\n", GetLastError());
+  return ok ? 0 : 1;
+}
+
 // Sends as soon as the window exists, for what happens in its first moments.
 int SendFirst(int argc, wchar_t** argv) {
   if (argc < 7) return 2;
@@ -164,6 +181,8 @@ int wmain(int argc, wchar_t** argv) {
     result = Send(argc, argv, true);
   else if (verb == L"send-first")
     result = SendFirst(argc, argv);
+  else if (verb == L"add-root-cert")
+    result = AddRootCertificate(argv[2]);
   else if (verb == L"wait-gone" && argc > 3)
     result = WaitGone(argv[2], Number(argv[3]));
   std::fflush(stdout);

@@ -1,0 +1,65 @@
+#!/usr/bin/env python3
+"""Checks update/make_release_manifest.py: the hash, the key order the program's reader needs,
+literal non-ASCII text, escapes, and the history carried from the previous release."""
+import hashlib
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+SCRIPT = os.path.join(os.path.dirname(__file__), "..", "..", "update", "make_release_manifest.py")
+
+
+def run(*args):
+    return subprocess.run([sys.executable, SCRIPT, *args], capture_output=True, text=True)
+
+
+class ReleaseManifest(unittest.TestCase):
+    def setUp(self):
+        self.dir = tempfile.mkdtemp()
+        self.setup = os.path.join(self.dir, "StayholdSetup.exe")
+        with open(self.setup, "wb") as f:
+            f.write(os.urandom(200000))
+
+    def make(self, out, version, *extra):
+        result = run("--setup", self.setup, "--version", version, "--setup-url",
+                     f"https://example.invalid/StayholdSetup-{version}.exe", "--out", out, *extra)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return open(out, encoding="utf-8").read()
+
+    def test_hash_order_and_literal_text(self):
+        text = self.make(os.path.join(self.dir, "u.json"), "1.0.113", "--changes-cs",
+                         'Oprava "úvozovek"\na \\ lomítka', "--changes", "Fixes")
+        expected = hashlib.sha256(open(self.setup, "rb").read()).hexdigest().upper()
+        self.assertIn(f'"sha256": "{expected}"', text)
+        self.assertLess(text.index('"version"'), text.index('"history"'))
+        self.assertLess(text.index('"changes_en"'), text.index('"history"'))
+        self.assertIn('Oprava \\"úvozovek\\"\\na \\\\ lomítka', text)
+        self.assertNotIn("\\u", text)
+
+    def test_history_is_carried_and_the_same_version_replaced(self):
+        first = os.path.join(self.dir, "first.json")
+        self.make(first, "1.0.113", "--changes", "one")
+        second = os.path.join(self.dir, "second.json")
+        self.make(second, "1.0.114", "--changes", "two", "--previous", first)
+        third = self.make(os.path.join(self.dir, "third.json"), "1.0.114", "--changes", "two again",
+                          "--previous", second)
+        history = third[third.index('"history"'):]
+        self.assertEqual(history.count('"version": "1.0.113"'), 1)
+        self.assertEqual(history.count('"version": "1.0.114"'), 1)
+        self.assertIn("two again", history)
+        self.assertNotIn('"two"', history)
+
+    def test_refusals(self):
+        out = os.path.join(self.dir, "x.json")
+        self.assertNotEqual(run("--setup", os.path.join(self.dir, "missing.exe"), "--version", "1.0",
+                                "--setup-url", "https://e/x.exe", "--out", out).returncode, 0)
+        self.assertNotEqual(run("--setup", self.setup, "--version", "beta", "--setup-url",
+                                "https://e/x.exe", "--out", out).returncode, 0)
+        self.assertNotEqual(run("--setup", self.setup, "--version", "1.0", "--setup-url",
+                                "ftp://e/x.exe", "--out", out).returncode, 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
