@@ -13,6 +13,7 @@
 #include "i18n/language.h"
 #include "i18n/string_table.h"
 #include "tray/tray_icon_win32.h"
+#include "update/update_check.h"
 
 namespace {
 
@@ -163,6 +164,37 @@ TEST_F(HiddenWindowTest, BlockReasonAndTooltipFollowTheLanguage) {
     ASSERT_FALSE(observed.notify.empty()) << c.column;
     EXPECT_EQ(std::wstring(observed.notify.back().szTip), Cell(27, c.column)) << c.column;
   }
+}
+
+TEST_F(HiddenWindowTest, AFinishedCheckSwitchesTheTooltipToTheUpdate) {
+  StartTimerFires();
+  UpdateCheckResult found;
+  found.ok = true;
+  found.update_available = true;
+  found.manifest.version = L"1.0.200";
+  StorePendingUpdateResult(found, true);
+  SendMessageW(window_, kWmUpdateCheckDone, 0, 0);
+  ASSERT_TRUE(GetAvailableUpdate().has_value());
+  EXPECT_EQ(std::wstring(observed.notify.back().szTip),
+            Cell(1, L"en") + L" 1.0.200 - " + Cell(2, L"en"));
+
+  // A failed check keeps the offer; a successful one without an update withdraws it.
+  UpdateCheckResult failed;
+  StorePendingUpdateResult(failed, true);
+  SendMessageW(window_, kWmUpdateCheckDone, 0, 0);
+  EXPECT_TRUE(GetAvailableUpdate().has_value());
+  UpdateCheckResult current;
+  current.ok = true;
+  current.manifest.version = L"1.0.112";
+  StorePendingUpdateResult(current, true);
+  SendMessageW(window_, kWmUpdateCheckDone, 0, 0);
+  EXPECT_FALSE(GetAvailableUpdate().has_value());
+  EXPECT_EQ(std::wstring(observed.notify.back().szTip), Cell(27, L"en"));
+
+  // A message whose result another window took already changes nothing.
+  const size_t calls = observed.notify.size();
+  SendMessageW(window_, kWmUpdateCheckDone, 0, 0);
+  EXPECT_EQ(observed.notify.size(), calls);
 }
 
 }  // namespace
