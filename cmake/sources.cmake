@@ -16,6 +16,8 @@ set(STAYHOLD_PORTABLE_SOURCES
   i18n/locale_table.cpp
   i18n/localized.cpp
   setup/install_paths.cpp
+  setup/quote_argument.cpp
+  setup/setup_failure.cpp
   tray/notice_text.cpp
   tray/tray_text.cpp
   update/manifest_reader.cpp

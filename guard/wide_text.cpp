@@ -58,6 +58,46 @@ std::string Utf8FromWide(const std::wstring& text) {
   return out;
 }
 
+bool WideFromUtf8Strict(const std::string& bytes, std::wstring& text) {
+  std::wstring out;
+  out.reserve(bytes.size());
+  for (size_t i = 0; i < bytes.size();) {
+    const unsigned char lead = static_cast<unsigned char>(bytes[i]);
+    size_t length = 0;
+    char32_t code = 0;
+    char32_t minimum = 0;
+    if (lead < 0x80) {
+      length = 1, code = lead;
+    } else if ((lead & 0xE0) == 0xC0) {
+      length = 2, code = lead & 0x1F, minimum = 0x80;
+    } else if ((lead & 0xF0) == 0xE0) {
+      length = 3, code = lead & 0x0F, minimum = 0x800;
+    } else if ((lead & 0xF8) == 0xF0) {
+      length = 4, code = lead & 0x07, minimum = 0x10000;
+    } else {
+      return false;
+    }
+    if (i + length > bytes.size()) return false;
+    for (size_t k = 1; k < length; ++k) {
+      const unsigned char next = static_cast<unsigned char>(bytes[i + k]);
+      if ((next & 0xC0) != 0x80) return false;
+      code = (code << 6) | (next & 0x3F);
+    }
+    if (code < minimum || code > 0x10FFFF || IsHighSurrogate(code) || IsLowSurrogate(code)) {
+      return false;
+    }
+    if (sizeof(wchar_t) == 2 && code >= 0x10000) {
+      out += static_cast<wchar_t>(0xD800 + ((code - 0x10000) >> 10));
+      out += static_cast<wchar_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
+    } else {
+      out += static_cast<wchar_t>(code);
+    }
+    i += length;
+  }
+  text = std::move(out);
+  return true;
+}
+
 std::wstring DecimalText(unsigned long long value) {
   std::wstring digits;
   do {

@@ -10,5 +10,9 @@ std::wstring TrimWhiteSpace(const std::wstring& text);
 // becomes U+FFFD, as WideCharToMultiByte does.
 std::string Utf8FromWide(const std::wstring& text);
 
+// Strict UTF-8 decoding: false for any malformed, overlong, surrogate or out-of-range sequence,
+// as MultiByteToWideChar with MB_ERR_INVALID_CHARS refuses them.
+bool WideFromUtf8Strict(const std::string& bytes, std::wstring& text);
+
 // Decimal digits of an unsigned value.
 std::wstring DecimalText(unsigned long long value);

@@ -46,3 +46,32 @@ TEST(DecimalText, Digits) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(WideFromUtf8Strict, AcceptsValidAndRefusesEveryMalformation) {
+  std::wstring text;
+  ASSERT_TRUE(WideFromUtf8Strict("A\xC3\xA9\xE2\x82\xAC", text));
+  EXPECT_EQ(text, std::wstring(L"A\u00E9\u20AC"));
+  ASSERT_TRUE(WideFromUtf8Strict("\xF0\x9F\x98\x80", text));
+  EXPECT_EQ(Utf8FromWide(text), "\xF0\x9F\x98\x80");  // one code point either way
+  ASSERT_TRUE(WideFromUtf8Strict("", text));
+  EXPECT_TRUE(text.empty());
+  const char* bad[] = {
+      "\x80",              // lone continuation
+      "\xC3",              // truncated
+      "\xC0\xAF",          // overlong
+      "\xE0\x80\xAF",      // overlong
+      "\xED\xA0\x80",      // surrogate
+      "\xF4\x90\x80\x80",  // above U+10FFFF
+      "\xFF",              // invalid lead
+      "ok\xE2\x82",        // truncated at the end
+  };
+  for (const char* bytes : bad) {
+    text = L"unchanged";
+    EXPECT_FALSE(WideFromUtf8Strict(bytes, text)) << bytes;
+    EXPECT_EQ(text, L"unchanged");
+  }
+}
+
+}  // namespace

@@ -16,28 +16,9 @@
 #include <cwchar>
 #include <string>
 
-namespace {
+#include "setup/quote_argument.h"
 
-// Quoting that CommandLineToArgvW reads back to the same argument.
-std::wstring Quote(const std::wstring& argument) {
-  if (!argument.empty() && argument.find_first_of(L" \t\"") == std::wstring::npos) return argument;
-  std::wstring out = L"\"";
-  size_t backslashes = 0;
-  for (wchar_t c : argument) {
-    if (c == L'\\') {
-      ++backslashes;
-      continue;
-    }
-    if (c == L'"')
-      out.append(backslashes * 2 + 1, L'\\');
-    else
-      out.append(backslashes, L'\\');
-    backslashes = 0;
-    out += c;
-  }
-  out.append(backslashes * 2, L'\\');
-  return out + L"\"";
-}
+namespace {
 
 unsigned long Number(const wchar_t* text) {
   return std::wcstoul(text, nullptr, 0);
@@ -49,7 +30,7 @@ int Run(int argc, wchar_t** argv) {
   std::wstring command_line;
   for (int i = 3; i < argc; ++i) {
     if (i > 3) command_line += L' ';
-    command_line += Quote(argv[i]);
+    command_line += QuoteArgument(argv[i]);
   }
   STARTUPINFOW startup = {};
   startup.cb = sizeof(startup);

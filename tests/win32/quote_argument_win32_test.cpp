@@ -1,0 +1,35 @@
+// Quoting checked against the platform's own argument parser.
+#include <windows.h>
+#include <shellapi.h>
+
+#include <gtest/gtest.h>
+
+#include "setup/quote_argument.h"
+
+namespace {
+
+TEST(QuoteArgument, CommandLineToArgvWReadsBackEveryArgument) {
+  const std::wstring texts[] = {L"",
+                                L"plain",
+                                L"C:\\Program Files\\Stayhold",
+                                L"C:\\X\\",
+                                L"say \"hi\"",
+                                L"a\\\\\"b",
+                                L"\\\\nas\\",
+                                L"tab\there",
+                                L"\"\"",
+                                L"trailing\\\\",
+                                L"\u010Cesk\u00E1 slo\u017Eka"};
+  for (const std::wstring& text : texts) {
+    const std::wstring line = L"setup.exe " + QuoteArgument(text) + L" --next";
+    int count = 0;
+    LPWSTR* argv = CommandLineToArgvW(line.c_str(), &count);
+    ASSERT_NE(argv, nullptr);
+    ASSERT_EQ(count, 3) << line;
+    EXPECT_EQ(std::wstring(argv[1]), text) << line;
+    EXPECT_EQ(std::wstring(argv[2]), L"--next") << line;
+    LocalFree(argv);
+  }
+}
+
+}  // namespace
