@@ -16,6 +16,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   i18n/locale_table.cpp
   i18n/localized.cpp
   setup/install_paths.cpp
+  setup/payload.cpp
   setup/quote_argument.cpp
   setup/setup_failure.cpp
   tray/notice_text.cpp
@@ -38,6 +39,8 @@ set(STAYHOLD_WIN32_SOURCES
   guard/machine_registry_win32.cpp
   i18n/locale_system_win32.cpp
   settings/settings_window_win32.cpp
+  setup/msi_driver_win32.cpp
+  setup/payload_win32.cpp
   setup/setup_actions_win32.cpp
   setup/shortcuts_win32.cpp
   tray/notice_win32.cpp

@@ -4,7 +4,7 @@ add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
 
 add_library(stayhold_win32 OBJECT ${STAYHOLD_WIN32_SOURCES})
 target_link_libraries(stayhold_win32 PUBLIC stayhold_portable)
-target_link_libraries(stayhold_win32 PUBLIC shell32 ole32 oleaut32 propsys shlwapi advapi32 winhttp user32
+target_link_libraries(stayhold_win32 PUBLIC shell32 ole32 oleaut32 propsys shlwapi advapi32 winhttp msi user32
   gdi32 uuid)
 
 set(STAYHOLD_ICON_FILE ${CMAKE_BINARY_DIR}/generated/stayhold.ico)
@@ -36,5 +36,26 @@ function(stayhold_executable target exe_base description)
 endfunction()
 
 stayhold_executable(stayhold_app Stayhold "Stayhold restart guard")
+target_sources(stayhold_app PRIVATE setup/payload_table_app.cpp)
+
+# The Windows Installer package of the application, embedded in the setup as its payload.
+set(STAYHOLD_MSI ${CMAKE_BINARY_DIR}/package/Stayhold.msi)
+add_custom_command(
+  OUTPUT ${STAYHOLD_MSI}
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/package
+  COMMAND ${CMAKE_SOURCE_DIR}/package/build_msi.sh ${STAYHOLD_MSI} $<TARGET_FILE:stayhold_app>
+          ${STAYHOLD_ICON_FILE} ${PROJECT_VERSION}
+  WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
+  DEPENDS stayhold_app ${STAYHOLD_ICON_FILE} ${CMAKE_SOURCE_DIR}/package/stayhold.wxs
+          ${CMAKE_SOURCE_DIR}/package/build_msi.sh
+  COMMENT "Building the Windows Installer package")
+add_custom_target(stayhold_msi DEPENDS ${STAYHOLD_MSI})
+
+set(STAYHOLD_PAYLOAD_RC ${CMAKE_BINARY_DIR}/generated/payload.rc)
+file(WRITE ${STAYHOLD_PAYLOAD_RC} "3001 SHDPAYLOAD \"${STAYHOLD_MSI}\"\n")
+set_source_files_properties(${STAYHOLD_PAYLOAD_RC} PROPERTIES OBJECT_DEPENDS ${STAYHOLD_MSI})
+
 stayhold_executable(stayhold_setup StayholdSetup "Stayhold Setup")
+target_sources(stayhold_setup PRIVATE ${STAYHOLD_PAYLOAD_RC} setup/payload_table_setup.cpp)
+add_dependencies(stayhold_setup stayhold_msi)
 target_compile_definitions(stayhold_setup PRIVATE STAYHOLD_SETUP_BUILD)

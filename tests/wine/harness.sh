@@ -45,12 +45,17 @@ _template_prefix() {
   local template="$STAYHOLD_BUILD/wine-template"
   (
     flock 9
-    if [ ! -f "$template/.ready" ]; then
+    if [ ! -f "$template/.ready-2" ]; then
       rm -rf "$template"
       mkdir -p "$template"
       WINEPREFIX="$template" timeout -k 5 120 "$WINE64" wineboot -i >/dev/null 2>&1 || exit 1
       WINEPREFIX="$template" timeout -k 5 60 wineserver -w
-      touch "$template/.ready"
+      # Wine links Desktop, Documents and the like to the Linux home; tests must write inside
+      # the prefix only, so the links become folders of their own.
+      find "$template/drive_c/users" -mindepth 2 -maxdepth 2 -type l | while read -r link; do
+        rm -f "$link" && mkdir -p "$link"
+      done
+      touch "$template/.ready-2"
     fi
   ) 9>"$STAYHOLD_BUILD/wine-template.lock" || {
     echo "harness: the template prefix could not be made" >&2
