@@ -18,6 +18,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   setup/install_paths.cpp
   setup/payload.cpp
   setup/quote_argument.cpp
+  setup/registration.cpp
   setup/setup_failure.cpp
   tray/notice_text.cpp
   tray/tray_text.cpp
@@ -41,6 +42,7 @@ set(STAYHOLD_WIN32_SOURCES
   settings/settings_window_win32.cpp
   setup/msi_driver_win32.cpp
   setup/payload_win32.cpp
+  setup/registration_win32.cpp
   setup/setup_actions_win32.cpp
   setup/shortcuts_win32.cpp
   tray/notice_win32.cpp

@@ -150,6 +150,8 @@ bool InstallPackage(const std::wstring& phase, bool start_with_windows, bool des
                        L"setup again as administrator and repair the install.");
     return false;
   }
+  InstallPaths paths;
+  if (ComputeInstallPaths(folder, paths)) RemoveLegacyInstallItems(paths);
   return true;
 }
 

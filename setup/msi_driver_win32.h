@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "setup/install_paths.h"
+
 inline constexpr wchar_t kUpgradeCode[] = L"{7C2E915B-3F4A-4D68-9B1E-5A60C3D7E214}";
 
 bool RunProcessWithTimeout(const std::wstring& command_line, unsigned long& exit_code,
@@ -17,6 +19,9 @@ bool InstallPackage(const std::wstring& phase, bool start_with_windows, bool des
                     const std::wstring& install_dir);
 bool UninstallPackages();
 std::wstring ReadMsiLogExcerpt(const std::wstring& log_path);
+
+// Older versions' shortcuts, folders and per-user copy; results are not examined.
+void RemoveLegacyInstallItems(const InstallPaths& paths);
 
 // Ends every other Stayhold.exe: WM_CLOSE to its windows, then termination if it stays.
 void ForceCloseRunningGuard();

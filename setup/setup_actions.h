@@ -13,3 +13,6 @@ int RunSetupDialog(InstanceHandle instance);
 
 // Starts the installed Stayhold.exe, with --settings when asked.
 void LaunchInstalledCopy(bool open_settings);
+
+// MoveFileExW with MOVEFILE_DELAY_UNTIL_REBOOT, logged either way; an empty path is ignored.
+void ScheduleDeleteOnReboot(const std::wstring& path);

@@ -1,0 +1,93 @@
+// The file-copy installation, used by a setup without an embedded package: this test program
+// carries none, and finds Stayhold.exe beside itself (copied there by the build).
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "guard/install_folder.h"
+#include "setup/registration.h"
+#include "setup/setup_actions.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::wstring ReadString(const wchar_t* key, const wchar_t* name) {
+  wchar_t value[1024] = {};
+  DWORD size = sizeof(value);
+  if (RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_SZ, nullptr, value, &size) !=
+      ERROR_SUCCESS) {
+    return L"<missing>";
+  }
+  return value;
+}
+
+DWORD ReadDword(const wchar_t* key, const wchar_t* name) {
+  DWORD value = 0xFFFFFFFF;
+  DWORD size = sizeof(value);
+  RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_DWORD, nullptr, &value, &size);
+  return value;
+}
+
+fs::path KnownPath(const wchar_t* variable, const wchar_t* tail) {
+  wchar_t base[MAX_PATH] = {};
+  GetEnvironmentVariableW(variable, base, MAX_PATH);
+  return fs::path(base) / tail;
+}
+
+TEST(FileCopySetup, InstallRepairAndUninstall) {
+  const fs::path folder = L"C:\\CopyInstall";
+  const fs::path startup =
+      KnownPath(L"APPDATA", L"Microsoft\\Windows\\Start Menu\\Programs\\Startup\\Stayhold.lnk");
+  const fs::path desktop = KnownPath(L"USERPROFILE", L"Desktop\\Stayhold.lnk");
+  ASSERT_TRUE(RunInstall(true, true, folder.c_str()));
+  EXPECT_TRUE(fs::is_regular_file(folder / L"Stayhold.exe"));
+  EXPECT_TRUE(fs::is_regular_file(folder / L"StayholdSetup.exe"));  // this program stood in
+  EXPECT_TRUE(fs::exists(startup)) << startup;
+  EXPECT_TRUE(fs::exists(desktop)) << desktop;
+
+  EXPECT_EQ(ReadString(kUninstallKey, L"DisplayName"), L"Stayhold");
+  EXPECT_EQ(ReadString(kUninstallKey, L"DisplayVersion"), L"1.0.112");
+  EXPECT_EQ(ReadString(kUninstallKey, L"InstallLocation"), L"C:\\CopyInstall");
+  EXPECT_EQ(ReadString(kUninstallKey, L"UninstallString"),
+            L"\"C:\\CopyInstall\\StayholdSetup.exe\" --uninstall");
+  EXPECT_EQ(ReadString(kUninstallKey, L"QuietUninstallString"),
+            L"\"C:\\CopyInstall\\StayholdSetup.exe\" --uninstall --quiet");
+  EXPECT_EQ(ReadString(kUninstallKey, L"DisplayIcon"), L"C:\\CopyInstall\\Stayhold.exe,0");
+  EXPECT_EQ(ReadDword(kUninstallKey, L"NoModify"), 1u);
+  const DWORD kilobytes = ReadDword(kUninstallKey, L"EstimatedSize");
+  const uintmax_t expected = KilobytesOf(fs::file_size(folder / L"Stayhold.exe")) +
+                             KilobytesOf(fs::file_size(folder / L"StayholdSetup.exe"));
+  EXPECT_EQ(kilobytes, expected);
+  EXPECT_EQ(
+      ReadString(L"Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Stayhold.exe", L""),
+      L"C:\\CopyInstall\\Stayhold.exe");
+  EXPECT_EQ(ReadString(L"Software\\Classes\\Applications\\StayholdSetup.exe", L"FriendlyAppName"),
+            L"Stayhold Setup");
+  EXPECT_EQ(GetInstallLocation(), L"C:\\CopyInstall");
+  EXPECT_TRUE(IsInstalled());
+
+  // A repair follows the given choices: the Startup shortcut goes, the desktop one stays.
+  ASSERT_TRUE(RunRepair(false, true));
+  EXPECT_FALSE(fs::exists(startup));
+  EXPECT_TRUE(fs::exists(desktop));
+
+  EXPECT_EQ(RunUninstall(), 0);
+  EXPECT_FALSE(fs::exists(folder / L"Stayhold.exe"));
+  EXPECT_FALSE(fs::exists(folder));
+  EXPECT_FALSE(fs::exists(desktop));
+  EXPECT_EQ(ReadString(kUninstallKey, L"DisplayName"), L"<missing>");
+  EXPECT_FALSE(IsInstalled());
+}
+
+TEST(Registration, KilobytesRoundUpAndStopBelowTheLimit) {
+  EXPECT_EQ(KilobytesOf(0), 0u);
+  EXPECT_EQ(KilobytesOf(1), 1u);
+  EXPECT_EQ(KilobytesOf(1024), 1u);
+  EXPECT_EQ(KilobytesOf(1025), 2u);
+  EXPECT_EQ(KilobytesOf(0xFFFFFFFFFFFFull), 0xFFFFFFFEu);
+}
+
+}  // namespace
