@@ -19,6 +19,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   setup/payload.cpp
   setup/quote_argument.cpp
   setup/registration.cpp
+  setup/setup_skins.cpp
   setup/setup_failure.cpp
   tray/notice_text.cpp
   tray/tray_text.cpp

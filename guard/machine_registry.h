@@ -19,3 +19,7 @@ class MachineRegistry {
 };
 
 MachineRegistry& SystemMachineRegistry();
+
+// A registry to use in place of the system's while set; for tests that need a refusing one
+// (Wine runs everything as administrator).
+MachineRegistry*& MachineRegistryOverride();

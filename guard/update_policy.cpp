@@ -57,7 +57,16 @@ std::wstring ValueText(const std::optional<uint32_t>& value) {
   return value ? DecimalText(*value) : std::wstring(L"<missing>");
 }
 
+MachineRegistry& PolicyRegistry() {
+  return MachineRegistryOverride() ? *MachineRegistryOverride() : SystemMachineRegistry();
+}
+
 }  // namespace
+
+MachineRegistry*& MachineRegistryOverride() {
+  static MachineRegistry* registry = nullptr;
+  return registry;
+}
 
 bool ApplyWindowsUpdatePolicy(MachineRegistry& registry) {
   bool all_written = true;
@@ -78,7 +87,7 @@ bool ApplyWindowsUpdatePolicy(MachineRegistry& registry) {
 }
 
 bool ApplyWindowsUpdatePolicy() {
-  return ApplyWindowsUpdatePolicy(SystemMachineRegistry());
+  return ApplyWindowsUpdatePolicy(PolicyRegistry());
 }
 
 UpdatePolicyReading ReadWindowsUpdatePolicy(MachineRegistry& registry) {
@@ -116,5 +125,5 @@ void LogWindowsUpdatePolicyStatus(MachineRegistry& registry) {
 }
 
 void LogWindowsUpdatePolicyStatus() {
-  LogWindowsUpdatePolicyStatus(SystemMachineRegistry());
+  LogWindowsUpdatePolicyStatus(PolicyRegistry());
 }

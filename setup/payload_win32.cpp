@@ -8,6 +8,8 @@
 #include "setup/payload.h"
 #include "setup/payload_win32.h"
 #include "setup/setup_failure.h"
+#include "setup/setup_skins.h"
+#include "guard/file_system.h"
 
 bool WriteEmbeddedResource(int resource_id, const std::wstring& target_path) {
   HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(resource_id), L"SHDPAYLOAD");
@@ -42,4 +44,15 @@ bool PrepareEmbeddedPackage(std::wstring& path) {
     return false;
   }
   return true;
+}
+
+std::vector<std::wstring> WriteSetupSkins() {
+  std::vector<std::wstring> written;
+  const std::wstring cache = SetupSkinCacheFolder();
+  CreateDirectoryTree(cache);
+  for (const PayloadRow& row : SetupSkinRows(EmbeddedPayloadTable())) {
+    const std::wstring target = cache + L"\\" + PayloadFileName(row.relative_path);
+    if (WriteEmbeddedResource(row.resource_id, target)) written.push_back(target);
+  }
+  return written;
 }

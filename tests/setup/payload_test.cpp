@@ -37,3 +37,31 @@ TEST(PackageCachePath, VersionAndFileName) {
 }
 
 }  // namespace
+
+#include "setup/setup_skins.h"
+#include "tests/support/fake_platform.h"
+
+namespace {
+
+TEST(SetupSkinRows, JsonFilesInASkinsFolderOnly) {
+  const PayloadRow table[] = {{3001, L"installer\\Stayhold.msi"},
+                              {3002, L"skins\\00-tessel-default-skins.json"},
+                              {3003, L"Skins/upper.JSON"},
+                              {3004, L"other\\x.json"},
+                              {3005, L"skins\\guide.txt"},
+                              {3006, L"a.json"},
+                              {0, nullptr}};
+  const std::vector<PayloadRow> rows = SetupSkinRows(table);
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[0].resource_id, 3002);
+  EXPECT_EQ(rows[1].resource_id, 3003);
+}
+
+TEST(SetupSkinCacheFolder, LocalAppDataElseTemporaryFolder) {
+  EXPECT_EQ(SetupSkinCacheFolder(), L"C:\\Users\\ada\\AppData\\Local\\Stayhold\\setup-skin-cache");
+  Fake().known_folders.erase(KnownFolder::LocalAppData);
+  EXPECT_EQ(SetupSkinCacheFolder(),
+            L"C:\\Users\\ada\\AppData\\Local\\Temp\\Stayhold-setup-skin-cache");
+}
+
+}  // namespace

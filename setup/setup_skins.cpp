@@ -1,0 +1,44 @@
+#include "setup/setup_skins.h"
+
+#include <cwctype>
+
+#include "guard/file_system.h"
+#include "guard/install_folder.h"
+#include "guard/win_path.h"
+#include "setup/install_paths.h"
+
+namespace {
+
+std::wstring Lower(std::wstring text) {
+  for (wchar_t& c : text)
+    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
+  return text;
+}
+
+}  // namespace
+
+std::vector<PayloadRow> SetupSkinRows(const PayloadRow* table) {
+  std::vector<PayloadRow> rows;
+  for (const PayloadRow& row : CountingPayloadRows(table)) {
+    const std::wstring path = Lower(row.relative_path);
+    const size_t slash = path.find_last_of(L"\\/");
+    if (slash == std::wstring::npos || path.size() < 5 ||
+        path.compare(path.size() - 5, 5, L".json") != 0) {
+      continue;
+    }
+    const size_t parent = path.find_last_of(L"\\/", slash - 1);
+    const std::wstring folder =
+        path.substr(parent == std::wstring::npos ? 0 : parent + 1,
+                    slash - (parent == std::wstring::npos ? 0 : parent + 1));
+    if (folder == L"skins") rows.push_back(row);
+  }
+  return rows;
+}
+
+std::wstring SetupSkinCacheFolder() {
+  InstallPaths paths;
+  if (ComputeInstallPaths(ResolveInstallFolder(), paths) && !paths.local_app_data.empty()) {
+    return JoinPath(JoinPath(paths.local_app_data, L"Stayhold"), L"setup-skin-cache");
+  }
+  return JoinPath(TempFolder(), L"Stayhold-setup-skin-cache");
+}

@@ -1,0 +1,72 @@
+// The failure texts of the setup as the user reads them, from real failing steps: a setup
+// without its package, a Windows Installer run that fails, and a policy step that is refused.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "guard/machine_registry.h"
+#include "guard/paths.h"
+#include "setup/msi_driver_win32.h"
+#include "setup/setup_actions.h"
+#include "setup/setup_failure.h"
+
+namespace {
+
+class RefusingRegistry final : public MachineRegistry {
+ public:
+  long CreateKey(const std::wstring&) override { return ERROR_ACCESS_DENIED; }
+  bool SetDword(const std::wstring&, uint32_t) override { return false; }
+  void CloseKey() override {}
+  bool ReadDword(const std::wstring&, const std::wstring&, uint32_t&) override { return false; }
+};
+
+TEST(SetupFailureText, ASetupWithoutItsPackage) {
+  ClearSetupFailure();
+  EXPECT_FALSE(InstallPackage(L"install", true, false, L""));
+  EXPECT_EQ(LastSetupFailure().phase, L"extract-msi");
+  EXPECT_EQ(AppendSetupFailureDetails(L"Install failed."),
+            L"Install failed.\n\nFailed step: extracting the embedded MSI package\nSetup does not "
+            L"contain an MSI package. Please download setup again.\nApplication log: " +
+                LogFilePath());
+}
+
+TEST(SetupFailureText, AFailingWindowsInstallerRun) {
+  ClearSetupFailure();
+  unsigned long code = 0;
+  EXPECT_FALSE(RunMsiexec(L"install", L"/i \"C:\\no\\such\\package.msi\" /qn /norestart", code));
+  const SetupFailure& failure = LastSetupFailure();
+  ASSERT_TRUE(failure.has_msi_exit);
+  EXPECT_EQ(failure.msi_exit, code);
+  EXPECT_NE(code, 0u);
+  EXPECT_NE(failure.msi_log_path.find(L"\\logs\\msi-install-"), std::wstring::npos);
+  std::wstring expected =
+      L"Install failed.\n\nFailed step: application install through Windows "
+      L"Installer\nMSI code: " +
+      std::to_wstring(code) + L"\n" + FriendlyMsiExitText(code, false);
+  if (!failure.msi_log_excerpt.empty()) {
+    expected += L"\n\nMSI log excerpt:\n" + failure.msi_log_excerpt;
+  }
+  expected += L"\n\nMSI log: " + failure.msi_log_path + L"\nApplication log: " + LogFilePath();
+  EXPECT_EQ(AppendSetupFailureDetails(L"Install failed."), expected);
+}
+
+TEST(SetupFailureText, ARefusedPolicyStepFailsTheInstall) {
+  RefusingRegistry refusing;
+  MachineRegistryOverride() = &refusing;
+  const bool installed = RunInstall(false, false, L"C:\\PolicyRefused");
+  MachineRegistryOverride() = nullptr;
+  EXPECT_FALSE(installed);
+  EXPECT_EQ(LastSetupFailure().phase, L"install-windows-update-policy");
+  // The application is in place all the same.
+  EXPECT_TRUE(std::filesystem::exists(L"C:\\PolicyRefused\\Stayhold.exe"));
+  EXPECT_EQ(AppendSetupFailureDetails(L"Install failed."),
+            L"Install failed.\n\nFailed step: install-windows-update-policy\nSetup installed the "
+            L"app, but could not write Windows Update policy. Run setup again as administrator "
+            L"and repair the install.\nApplication log: " +
+                LogFilePath());
+  EXPECT_EQ(RunUninstall(), 0);
+}
+
+}  // namespace
