@@ -24,6 +24,10 @@ echo "--- a default install"
 [ "$(reg_value 'HKLM\Software\Marlowen\Stayhold' InstallLocation)" = 'C:\Program' ] ||
   fail "InstallLocation not written"
 link_exists "$PROGRAMS/Marlowen" || fail "no Start menu shortcut"
+menu=$(wintool read-link "$(win_path "$(find "$PROGRAMS/Marlowen" -maxdepth 1 -iname stayhold.lnk | head -n 1)")")
+grep -qix 'target=C:\\Program Files\\Stayhold\\Stayhold.exe' <<<"$menu" || fail "Start menu target: $menu"
+grep -qx 'arguments=--settings' <<<"$menu" || fail "Start menu arguments: $menu"
+grep -qix 'folder=C:\\Program Files\\Stayhold\\\?' <<<"$menu" || fail "Start menu working folder: $menu"
 startup_link || fail "no Startup shortcut"
 link_exists "$DESKTOP" && fail "a desktop shortcut without --desktop"
 [ "$(reg_value 'HKLM\Software\Policies\Microsoft\Windows\WindowsUpdate\AU' AUOptions)" = 0x3 ] ||
@@ -68,5 +72,19 @@ echo "--- a failing Windows Installer run gives exit code 4 and its diagnosis in
 [ "$(setup --install --install-dir 'Q:\no\such\drive')" = 4 ] || fail "a failing install did not exit 4"
 grep -q '  setup MSI failure phase=install exit=' "$LOG" || fail "no 'setup MSI failure' line"
 grep -q '  MSI install failed$' "$LOG" || fail "no 'MSI install failed'"
+
+echo "--- a repair whose Windows Installer run fails ends with exit code 5"
+[ "$(setup --install)" = 0 ] || fail "reinstall failed"
+wine_exe reg add 'HKLM\Software\Marlowen\Stayhold' /v InstallLocation /d 'Q:\nowhere' /f >/dev/null
+[ "$(setup --repair)" = 5 ] || fail "a failing repair did not exit 5"
+grep -q '  MSI repair failed$' "$LOG" || fail "no 'MSI repair failed'"
+
+echo "--- an uninstall whose package is gone ends with exit code 2"
+wine_exe reg delete 'HKLM\Software\Marlowen\Stayhold' /f >/dev/null 2>&1
+[ "$(setup --install)" = 0 ] || fail "install before the broken uninstall failed"
+rm -f "$C/windows/Installer/"*.msi "$(data_dir)/setup-msi-cache/"*.msi
+code=$(setup --uninstall)
+echo "uninstall without any package source exited $code"
+[ "$code" = 2 ] || fail "an uninstall that Windows Installer cannot carry out exited $code, not 2"
 
 echo "setup scenario: all checks passed"

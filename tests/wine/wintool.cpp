@@ -5,12 +5,15 @@
 //   wintool send CLASS MSG WPARAM LPARAM [MS]   SendMessageTimeoutW; prints "result=N"
 //   wintool post CLASS MSG WPARAM LPARAM        PostMessageW
 //   wintool wait-gone CLASS TIMEOUT_MS          exit 0 once no window of the class exists
+//   wintool read-link FILE.lnk                   prints the shortcut's target, arguments, folder
 //   wintool add-root-cert FILE.der               trusts a certificate for HTTPS (machine ROOT)
 //   wintool send-first CLASS MSG WPARAM LPARAM TIMEOUT_MS
 //                                               waits for the window, sends at once; prints
 //                                               "result=N" and "after_found_ms=N"
 #include <windows.h>
 #include <wincrypt.h>
+#include <objbase.h>
+#include <shobjidl.h>
 
 #include <cstdio>
 #include <cwchar>
@@ -97,6 +100,32 @@ int Send(int argc, wchar_t** argv, bool post) {
   return 0;
 }
 
+int ReadLink(const wchar_t* path) {
+  if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) return 1;
+  IShellLinkW* link = nullptr;
+  IPersistFile* file = nullptr;
+  int result = 1;
+  if (SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
+                                 reinterpret_cast<void**>(&link))) &&
+      SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file))) &&
+      SUCCEEDED(file->Load(path, STGM_READ))) {
+    wchar_t text[MAX_PATH] = {};
+    link->GetPath(text, MAX_PATH, nullptr, SLGP_RAWPATH);
+    std::wprintf(L"target=%ls\n", text);
+    text[0] = 0;
+    link->GetArguments(text, MAX_PATH);
+    std::wprintf(L"arguments=%ls\n", text);
+    text[0] = 0;
+    link->GetWorkingDirectory(text, MAX_PATH);
+    std::wprintf(L"folder=%ls\n", text);
+    result = 0;
+  }
+  if (file) file->Release();
+  if (link) link->Release();
+  CoUninitialize();
+  return result;
+}
+
 int AddRootCertificate(const wchar_t* path) {
   FILE* file = _wfopen(path, L"rb");
   if (!file) return 1;
@@ -162,6 +191,8 @@ int wmain(int argc, wchar_t** argv) {
     result = Send(argc, argv, true);
   else if (verb == L"send-first")
     result = SendFirst(argc, argv);
+  else if (verb == L"read-link")
+    result = ReadLink(argv[2]);
   else if (verb == L"add-root-cert")
     result = AddRootCertificate(argv[2]);
   else if (verb == L"wait-gone" && argc > 3)
