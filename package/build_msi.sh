@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds Stayhold.msi with wixl, then sets what wixl cannot express itself: the conditions of
-# the optional shortcut components, written straight into the Component table.
+# Builds Stayhold.msi with wixl, then sets what wixl cannot express itself, straight in the
+# tables: the conditions of the optional shortcut components, and the removal of an older
+# version early in the installation (1501, just after InstallInitialize).
 # Usage: build_msi.sh OUTPUT.msi APP_EXE ICON VERSION   (run from the build tree)
 set -euo pipefail
 out="$1" app="$2" icon="$3" version="$4"
@@ -16,4 +17,5 @@ condition() {
 }
 condition cmpStartupShortcut 'STARTWITHWINDOWS = "1"'
 condition cmpDesktopShortcut 'DESKTOPSHORTCUT = "1"'
+msibuild "$tmp" -q "UPDATE InstallExecuteSequence SET Sequence = 1501 WHERE Action = 'RemoveExistingProducts'"
 mv "$tmp" "$out"

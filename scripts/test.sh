@@ -11,6 +11,7 @@ cd "$root"
 
 passed=0        # tests that passed, over all suites
 failed=0        # tests and steps that failed
+skipped=0       # tests that did not run: none may, so they fail the run too
 failures=()
 step() {
   local name="$1"
@@ -29,14 +30,18 @@ ctest_suite() {
   local status=${PIPESTATUS[0]}
   local counts total bad
   counts=$(sed -n 's/.*tests passed, \([0-9]*\) tests\? failed out of \([0-9]*\).*/\1 \2/p' "$log")
+  local not_run
+  not_run=$(grep -c '(Skipped)$' "$log")
   rm -f "$log"
   if [ -z "$counts" ]; then
     failed=$((failed + 1))  # ctest could not run the suite at all
     return 1
   fi
   read -r bad total <<<"$counts"
-  passed=$((passed + total - bad))
+  passed=$((passed + total - bad - not_run))
   failed=$((failed + bad))
+  skipped=$((skipped + not_run))
+  [ "$not_run" -eq 0 ] || status=1
   [ "$total" -gt 0 ] || { failed=$((failed + 1)); return 1; }
   return "$status"
 }
@@ -65,5 +70,5 @@ step "formatting" format_check
 
 echo
 [ ${#failures[@]} -gt 0 ] && echo "failed steps: ${failures[*]}"
-echo "summary: $passed passed, $failed failed"
-[ "$failed" -eq 0 ] && [ ${#failures[@]} -eq 0 ]
+echo "summary: $passed passed, $failed failed, $skipped skipped"
+[ "$failed" -eq 0 ] && [ "$skipped" -eq 0 ] && [ ${#failures[@]} -eq 0 ]

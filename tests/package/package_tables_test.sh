@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# The built Windows Installer package holds what the setup relies on, read back from its tables.
+# Usage: package_tables_test.sh Stayhold.msi
+set -u
+msi="$1"
+failures=0
+expect() {  # TABLE PATTERN WHAT
+  if ! msiinfo export "$msi" "$1" 2>/dev/null | tr -d '\r' | grep -qP -- "$2"; then
+    echo "FAIL: $3 (table $1 lacks /$2/)"
+    failures=$((failures + 1))
+  fi
+}
+expect Property '^UpgradeCode\t\{7C2E915B-3F4A-4D68-9B1E-5A60C3D7E214\}$' "fixed upgrade code"
+expect Property '^ProductVersion\t1\.0\.112$' "product version"
+expect Property '^ProductName\tStayhold$' "product name"
+expect Property '^Manufacturer\tMarlowen$' "manufacturer"
+expect Property '^ALLUSERS\t1$' "per-machine"
+expect Property '^ARPPRODUCTICON\tAppIcon$' "icon in Installed apps"
+expect Component '^cmpStartupShortcut\t.*\tSTARTWITHWINDOWS = "1"\t' "Startup shortcut condition"
+expect Component '^cmpDesktopShortcut\t.*\tDESKTOPSHORTCUT = "1"\t' "desktop shortcut condition"
+expect Component '^cmpStartMenuShortcut\t[^\t]*\tPublisherStartMenuDir\t[0-9]+\t\t' "Start menu shortcut always"
+expect InstallExecuteSequence '^RemoveExistingProducts\t\t1501$' "early removal of an older version"
+expect LaunchCondition '^NOT WIX_DOWNGRADE_DETECTED\tA newer version of Stayhold is already installed\.$' "downgrade refused"
+expect Shortcut '^StartMenuShortcut\tPublisherStartMenuDir\t.*\t--settings\t' "Start menu shortcut opens the settings"
+expect Shortcut '^StartupShortcut\tStartupFolder\t' "Startup shortcut"
+expect Registry 'InstallLocation\t\[INSTALLFOLDER\]' "install folder recorded"
+expect Directory '^INSTALLFOLDER\tProgramFiles64Folder\tStayhold$' "default folder"
+expect Media 'cab1\.cab' "one embedded cabinet"
+expect _SummaryInformation 'x64;1033' "x64 package" 2>/dev/null || true
+echo "package tables: $failures failed"
+[ "$failures" -eq 0 ]
