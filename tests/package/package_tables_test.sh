@@ -23,6 +23,9 @@ expect InstallExecuteSequence '^RemoveExistingProducts\t\t1501$' "early removal 
 expect LaunchCondition '^NOT WIX_DOWNGRADE_DETECTED\tA newer version of Stayhold is already installed\.$' "downgrade refused"
 expect Shortcut '^StartMenuShortcut\tPublisherStartMenuDir\t.*\t--settings\t' "Start menu shortcut opens the settings"
 expect Shortcut '^StartupShortcut\tStartupFolder\t' "Startup shortcut"
+for shortcut in StartMenuShortcut StartupShortcut DesktopShortcut; do
+  expect MsiShortcutProperty "^Aumid$shortcut\t$shortcut\t\{9F4C2855-9F79-4B39-A8D0-E1D42DE1D5F3\}, 5\tMarlowen\.Stayhold\.App\$" "AppUserModelID of $shortcut"
+done
 expect Registry 'InstallLocation\t\[INSTALLFOLDER\]' "install folder recorded"
 expect Directory '^INSTALLFOLDER\tProgramFiles64Folder\tStayhold$' "default folder"
 expect Media 'cab1\.cab' "one embedded cabinet"
