@@ -1,22 +1,13 @@
 #include "guard/startup_options.h"
 
 #include <cwchar>
-#include <cwctype>
+
+#include "guard/wide_text.h"
 
 namespace {
 
 bool Contains(const std::wstring& text, const wchar_t* option) {
   return text.find(option) != std::wstring::npos;
-}
-
-bool EqualsIgnoringCase(const std::wstring& a, const wchar_t* b) {
-  size_t i = 0;
-  for (; i < a.size() && b[i] != L'\0'; ++i) {
-    if (std::towlower(static_cast<wint_t>(a[i])) != std::towlower(static_cast<wint_t>(b[i]))) {
-      return false;
-    }
-  }
-  return i == a.size() && b[i] == L'\0';
 }
 
 }  // namespace

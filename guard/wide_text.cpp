@@ -12,6 +12,16 @@ std::wstring TrimWhiteSpace(const std::wstring& text) {
   return text.substr(begin, end - begin);
 }
 
+bool EqualsIgnoringCase(const std::wstring& a, const std::wstring& b) {
+  if (a.size() != b.size()) return false;
+  for (size_t i = 0; i < a.size(); ++i) {
+    if (std::towlower(static_cast<wint_t>(a[i])) != std::towlower(static_cast<wint_t>(b[i]))) {
+      return false;
+    }
+  }
+  return true;
+}
+
 namespace {
 
 void AppendUtf8(std::string& out, char32_t code) {

@@ -6,6 +6,9 @@
 // White space trimmed at both ends, by iswspace.
 std::wstring TrimWhiteSpace(const std::wstring& text);
 
+// Equal after towlower of each character (the C runtime's case rules, not the locale's).
+bool EqualsIgnoringCase(const std::wstring& a, const std::wstring& b);
+
 // UTF-8 of wide text. On 16-bit wchar_t, pairs of surrogates are combined and a lone surrogate
 // becomes U+FFFD, as WideCharToMultiByte does.
 std::string Utf8FromWide(const std::wstring& text);

@@ -1,24 +1,9 @@
 #include "update/update_install.h"
 
-#include <cwctype>
-
 #include "guard/log.h"
+#include "guard/wide_text.h"
 #include "guard/win_path.h"
 #include "i18n/localized.h"
-
-namespace {
-
-bool EqualIgnoringCase(const std::wstring& a, const std::wstring& b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i) {
-    if (std::towlower(static_cast<wint_t>(a[i])) != std::towlower(static_cast<wint_t>(b[i]))) {
-      return false;
-    }
-  }
-  return true;
-}
-
-}  // namespace
 
 void SetUpdateProgress(UpdateInstallState& state, UpdateInstallServices& services, int percent,
                        const std::wstring& status) {
@@ -74,7 +59,7 @@ void RunStayholdAutoUpdate(UpdateInstallServices& services,
   if (fresh.ok) {
     if (fresh.manifest.version != manifest.version ||
         fresh.manifest.setup_url != manifest.setup_url ||
-        !EqualIgnoringCase(fresh.manifest.sha256, manifest.sha256)) {
+        !EqualsIgnoringCase(fresh.manifest.sha256, manifest.sha256)) {
       AppendLog(L"update install manifest refreshed: cached=" + manifest.version + L" latest=" +
                 fresh.manifest.version + L" setup_or_hash_changed");
     }
@@ -120,7 +105,7 @@ void RunStayholdAutoUpdate(UpdateInstallServices& services,
       fail(failed, error);
       return;
     }
-    if (!EqualIgnoringCase(hex, manifest.sha256)) {
+    if (!EqualsIgnoringCase(hex, manifest.sha256)) {
       fail(failed, Localized(L"SHA-256 stažené instalace neodpovídá manifestu.",
                              L"The downloaded setup SHA-256 does not match the manifest."));
       return;
