@@ -19,11 +19,6 @@ constexpr wchar_t kUiState[] = L"ui_state.settings";
 // A damaged count must not turn one start into billions of profile reads; no user keeps more.
 constexpr int kMaxStoredItems = 1000;
 
-std::wstring Number(long long value) {
-  return value < 0 ? L"-" + DecimalText(0ull - static_cast<unsigned long long>(value))
-                   : DecimalText(static_cast<unsigned long long>(value));
-}
-
 std::wstring ProfileSection(size_t index) {
   return L"profile" + DecimalText(index);
 }
@@ -32,7 +27,7 @@ std::wstring WindowKey(size_t index) {
 }
 
 std::wstring ControlSection(long long index) {
-  return std::wstring(kUiState) + L".control" + Number(index < 0 ? 0 : index);
+  return std::wstring(kUiState) + L".control" + SignedDecimalText(index < 0 ? 0 : index);
 }
 
 int Clamp(int value, int low, int high) {
@@ -47,8 +42,8 @@ RestartWindow ClampWindow(RestartWindow window) {
 }
 
 std::wstring WindowValue(const RestartWindow& window) {
-  return Number(window.enabled ? 1 : 0) + L"," + Number(window.day) + L"," +
-         Number(window.from_minute) + L"," + Number(window.to_minute);
+  return SignedDecimalText(window.enabled ? 1 : 0) + L"," + SignedDecimalText(window.day) + L"," +
+         SignedDecimalText(window.from_minute) + L"," + SignedDecimalText(window.to_minute);
 }
 
 // One "%d" of swscanf: white space, an optional sign, at least one digit.
@@ -205,23 +200,25 @@ bool WriteUiState(ProfileStore& store, const std::wstring& path, const WindowUiS
     ok = store.WriteString(path, section, key, v) && ok;
   };
   write(kUiState, L"schema_version", L"1");
-  write(kUiState, L"window_x", Number(state.x));
-  write(kUiState, L"window_y", Number(state.y));
-  write(kUiState, L"window_width", Number(state.width));
-  write(kUiState, L"window_height", Number(state.height));
-  write(kUiState, L"show_command", Number(state.show_command));
+  write(kUiState, L"window_x", SignedDecimalText(state.x));
+  write(kUiState, L"window_y", SignedDecimalText(state.y));
+  write(kUiState, L"window_width", SignedDecimalText(state.width));
+  write(kUiState, L"window_height", SignedDecimalText(state.height));
+  write(kUiState, L"show_command", SignedDecimalText(state.show_command));
   write(kUiState, L"maximized", state.maximized ? L"1" : L"0");
-  write(kUiState, L"control_count", Number(static_cast<long long>(state.controls.size())));
+  write(kUiState, L"control_count",
+        SignedDecimalText(static_cast<long long>(state.controls.size())));
   for (size_t n = 0; n < state.controls.size(); ++n) {
     const ControlUiState& control = state.controls[n];
     const std::wstring section = ControlSection(static_cast<long long>(n));
     write(section, L"id", control.id);
-    write(section, L"x", Number(control.x));
-    write(section, L"y", Number(control.y));
-    write(section, L"width", Number(control.width));
-    write(section, L"height", Number(control.height));
+    write(section, L"x", SignedDecimalText(control.x));
+    write(section, L"y", SignedDecimalText(control.y));
+    write(section, L"width", SignedDecimalText(control.width));
+    write(section, L"height", SignedDecimalText(control.height));
     write(section, L"style_id", control.style_id);
-    write(section, L"value_count", Number(static_cast<long long>(control.values.size())));
+    write(section, L"value_count",
+          SignedDecimalText(static_cast<long long>(control.values.size())));
     for (size_t v = 0; v < control.values.size(); ++v) {
       ok = store.WriteString(path, section, L"value" + DecimalText(v), control.values[v]) && ok;
     }
@@ -288,7 +285,7 @@ bool SaveConfig(ProfileStore& store, const StayholdConfig& original) {
   write(kGeneral, L"skin_id", config.skin_id);
   write(kGeneral, L"ui_performance_profile", config.ui_performance_profile);
   write(kProfiles, L"count", DecimalText(config.profiles.size()));
-  write(kProfiles, L"active_index", Number(config.active_profile_index));
+  write(kProfiles, L"active_index", SignedDecimalText(config.active_profile_index));
 
   for (size_t n = 0; n < config.profiles.size(); ++n) {
     const BehaviorProfile& profile = config.profiles[n];

@@ -25,11 +25,6 @@ constexpr PolicyValue kAuValues[] = {
     {L"AlwaysAutoRebootAtScheduledTimeMinutes", 0},
 };
 
-std::wstring SignedDecimal(long value) {
-  if (value < 0) return L"-" + DecimalText(0ull - static_cast<unsigned long long>(value));
-  return DecimalText(static_cast<unsigned long long>(value));
-}
-
 // Creates the key and writes every value, even after one failed; false when the key could not
 // be created (logged) or any write failed.
 bool WriteKey(MachineRegistry& registry, const wchar_t* key, const wchar_t* key_label,
@@ -37,7 +32,7 @@ bool WriteKey(MachineRegistry& registry, const wchar_t* key, const wchar_t* key_
   const long error = registry.CreateKey(key);
   if (error != 0) {
     AppendLog(std::wstring(L"windows update policy failed: create ") + key_label + L" key error=" +
-              SignedDecimal(error));
+              SignedDecimalText(error));
     return false;
   }
   for (size_t i = 0; i < count; ++i) {

@@ -116,3 +116,8 @@ std::wstring DecimalText(unsigned long long value) {
   } while (value != 0);
   return digits;
 }
+
+std::wstring SignedDecimalText(long long value) {
+  if (value < 0) return L"-" + DecimalText(0ull - static_cast<unsigned long long>(value));
+  return DecimalText(static_cast<unsigned long long>(value));
+}

@@ -19,3 +19,5 @@ bool WideFromUtf8Strict(const std::string& bytes, std::wstring& text);
 
 // Decimal digits of an unsigned value.
 std::wstring DecimalText(unsigned long long value);
+// Decimal digits with a minus sign for a negative value.
+std::wstring SignedDecimalText(long long value);

@@ -43,6 +43,9 @@ TEST(DecimalText, Digits) {
   EXPECT_EQ(DecimalText(0), L"0");
   EXPECT_EQ(DecimalText(600000), L"600000");
   EXPECT_EQ(DecimalText(18446744073709551615ull), L"18446744073709551615");
+  EXPECT_EQ(SignedDecimalText(-2), L"-2");
+  EXPECT_EQ(SignedDecimalText(-9223372036854775807ll - 1), L"-9223372036854775808");
+  EXPECT_EQ(SignedDecimalText(7), L"7");
 }
 
 }  // namespace
