@@ -33,6 +33,7 @@ set(STAYHOLD_PORTABLE_SOURCES
 
 # The thin Windows layer beside them.
 set(STAYHOLD_WIN32_SOURCES
+  guard/app_icon_win32.cpp
   guard/file_system_win32.cpp
   guard/hidden_window_win32.cpp
   guard/local_time_win32.cpp

@@ -2,6 +2,7 @@
 
 #include <shellapi.h>
 
+#include "guard/app_icon_win32.h"
 #include "guard/build_facts.h"
 #include "guard/config_store.h"
 #include "guard/guard_messages.h"
@@ -250,9 +251,7 @@ bool RegisterHiddenWindowClass(HINSTANCE instance) {
   window_class.cbSize = sizeof(window_class);
   window_class.lpfnWndProc = HiddenWindowProc;
   window_class.hInstance = instance;
-  window_class.hIcon = static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(kApplicationIconId),
-                                                     IMAGE_ICON, GetSystemMetrics(SM_CXICON),
-                                                     GetSystemMetrics(SM_CYICON), LR_SHARED));
+  window_class.hIcon = LoadApplicationIcon(instance, SM_CXICON, SM_CYICON);
   window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   window_class.lpszClassName = kHiddenWindowClass;
   return RegisterClassExW(&window_class) != 0;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "guard/app_icon_win32.h"
 #include "guard/build_facts.h"
 #include "guard/config.h"
 #include "guard/config_store.h"
@@ -28,13 +29,6 @@ std::wstring InstallDirFromArguments() {
   std::vector<std::wstring> arguments(argv, argv + count);
   LocalFree(argv);
   return FindInstallDirArgument(arguments);
-}
-
-HICON LoadApplicationIcon(HINSTANCE instance, int size_metric_x, int size_metric_y) {
-  HICON icon = static_cast<HICON>(LoadImageW(instance, MAKEINTRESOURCEW(kApplicationIconId),
-                                             IMAGE_ICON, GetSystemMetrics(size_metric_x),
-                                             GetSystemMetrics(size_metric_y), LR_SHARED));
-  return icon ? icon : LoadIconW(nullptr, IDI_APPLICATION);
 }
 
 int RunSetupAction(StartupRole role, const StartupOptions& options,

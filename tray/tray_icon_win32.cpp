@@ -1,6 +1,6 @@
 #include "tray/tray_icon_win32.h"
 
-#include "guard/build_facts.h"
+#include "guard/app_icon_win32.h"
 #include "guard/config.h"
 #include "guard/guard_messages.h"
 #include "guard/guard_status.h"
@@ -21,13 +21,6 @@ ShellNotifyIconFunction& TrayShellNotify() {
 
 namespace {
 
-HICON SmallApplicationIcon() {
-  HICON icon = static_cast<HICON>(
-      LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kApplicationIconId), IMAGE_ICON,
-                 GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED));
-  return icon ? icon : LoadIconW(nullptr, IDI_APPLICATION);
-}
-
 template <size_t N>
 void CopyField(wchar_t (&field)[N], const std::wstring& text) {
   const std::wstring fitted = FitToField(text, N);
@@ -44,7 +37,7 @@ void AddTrayIcon() {
   tray_data.uID = 1;
   tray_data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
   tray_data.uCallbackMessage = kWmTrayCallback;
-  tray_data.hIcon = SmallApplicationIcon();
+  tray_data.hIcon = LoadApplicationIcon(GetModuleHandleW(nullptr), SM_CXSMICON, SM_CYSMICON);
   // The status text always; a known update shows again at the next refresh.
   CopyField(tray_data.szTip, FormatTrayTooltip(EvaluateGuardStatus(AppConfig())));
   if (TrayShellNotify()(NIM_ADD, &tray_data)) {
