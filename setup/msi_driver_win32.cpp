@@ -30,10 +30,6 @@ std::string ReadBytes(const std::wstring& path) {
   return bytes;
 }
 
-bool EqualsNoCase(const wchar_t* a, const wchar_t* b) {
-  return _wcsicmp(a, b) == 0;
-}
-
 BOOL CALLBACK CloseTopLevelWindow(HWND window, LPARAM l_param) {
   auto* state = reinterpret_cast<std::pair<DWORD, bool>*>(l_param);
   DWORD owner_process = 0;
@@ -142,17 +138,29 @@ bool InstallPackage(const std::wstring& phase, bool start_with_windows, bool des
       (desktop_shortcut ? L" DESKTOPSHORTCUT=1" : L" DESKTOPSHORTCUT=0");
   unsigned long code = 0;
   if (!RunMsiexec(phase, arguments, code)) return false;
-  if (!ApplyWindowsUpdatePolicy()) {
+  // The same message serves a repair through the package too.
+  if (!WriteUpdatePolicyStep(phase, false)) return false;
+  InstallPaths paths;
+  if (ComputeInstallPaths(folder, paths)) RemoveLegacyInstallItems(paths);
+  return true;
+}
+
+bool WriteUpdatePolicyStep(const std::wstring& phase, bool repair_wording) {
+  if (ApplyWindowsUpdatePolicy()) return true;
+  if (repair_wording) {
+    ReportSetupFailure(phase + L"-windows-update-policy",
+                       L"Oprava obnovila aplikaci, ale nemohla zapsat zásady Windows Update. "
+                       L"Spusťte instalaci znovu jako správce a opravte instalaci.",
+                       L"Repair restored the app, but could not write Windows Update policy. Run "
+                       L"setup again as administrator and repair the install.");
+  } else {
     ReportSetupFailure(phase + L"-windows-update-policy",
                        L"Instalace aplikaci nainstalovala, ale nemohla zapsat zásady Windows "
                        L"Update. Spusťte instalaci znovu jako správce a opravte instalaci.",
                        L"Setup installed the app, but could not write Windows Update policy. Run "
                        L"setup again as administrator and repair the install.");
-    return false;
   }
-  InstallPaths paths;
-  if (ComputeInstallPaths(folder, paths)) RemoveLegacyInstallItems(paths);
-  return true;
+  return false;
 }
 
 bool UninstallPackages() {
@@ -175,7 +183,7 @@ void ForceCloseRunningGuard() {
   entry.dwSize = sizeof(entry);
   for (BOOL more = Process32FirstW(snapshot, &entry); more;
        more = Process32NextW(snapshot, &entry)) {
-    if (!EqualsNoCase(entry.szExeFile, L"Stayhold.exe") ||
+    if (!EqualsIgnoringCase(entry.szExeFile, L"Stayhold.exe") ||
         entry.th32ProcessID == GetCurrentProcessId()) {
       continue;
     }

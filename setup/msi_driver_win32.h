@@ -20,6 +20,10 @@ bool InstallPackage(const std::wstring& phase, bool start_with_windows, bool des
 bool UninstallPackages();
 std::wstring ReadMsiLogExcerpt(const std::wstring& log_path);
 
+// Writes the Windows Update policy as a step of `phase`; on failure records
+// "<phase>-windows-update-policy" with the install text, or the repair text when asked for it.
+bool WriteUpdatePolicyStep(const std::wstring& phase, bool repair_wording);
+
 // Older versions' shortcuts, folders and per-user copy; results are not examined.
 void RemoveLegacyInstallItems(const InstallPaths& paths);
 

@@ -7,7 +7,6 @@
 #include "guard/file_system.h"
 #include "guard/install_folder.h"
 #include "guard/log.h"
-#include "guard/update_policy.h"
 #include "guard/version.h"
 #include "guard/wide_text.h"
 #include "guard/win_path.h"
@@ -26,10 +25,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool SameFile(const std::wstring& a, const std::wstring& b) {
-  return _wcsicmp(a.c_str(), b.c_str()) == 0;
-}
-
 std::wstring OwnPath() {
   wchar_t buffer[MAX_PATH] = {};
   const DWORD length = GetModuleFileNameW(nullptr, buffer, MAX_PATH);
@@ -37,7 +32,7 @@ std::wstring OwnPath() {
 }
 
 bool CopyInto(const std::wstring& source, const std::wstring& target) {
-  return SameFile(source, target) || CopyFileW(source.c_str(), target.c_str(), FALSE);
+  return EqualsIgnoringCase(source, target) || CopyFileW(source.c_str(), target.c_str(), FALSE);
 }
 
 // Copies files of the given extensions from `from` to `to`; a missing source folder is fine.
@@ -59,12 +54,6 @@ bool CopyFolderFiles(const std::wstring& from, const std::wstring& to,
     }
   }
   return true;
-}
-
-bool PolicyStep(const std::wstring& phase, const wchar_t* cs, const wchar_t* en) {
-  if (ApplyWindowsUpdatePolicy()) return true;
-  ReportSetupFailure(phase, cs, en);
-  return false;
 }
 
 // The file-copy installation, for a setup without an embedded package.
@@ -96,13 +85,7 @@ bool InstallByCopying(const InstallPaths& paths, const std::wstring& source_app,
   if (ok && desktop) ok = CreateStartMenuShortcut(paths.desktop_shortcut, paths);
   ok = ok && WriteUninstallEntry(paths) && WriteAppRegistration(paths);
   if (!ok) return false;
-  if (!PolicyStep(L"install-windows-update-policy",
-                  L"Instalace aplikaci nainstalovala, ale nemohla zapsat zásady Windows Update. "
-                  L"Spusťte instalaci znovu jako správce a opravte instalaci.",
-                  L"Setup installed the app, but could not write Windows Update policy. Run "
-                  L"setup again as administrator and repair the install.")) {
-    return false;
-  }
+  if (!WriteUpdatePolicyStep(L"install", false)) return false;
   RemoveLegacyInstallItems(paths);
   return true;
 }
@@ -165,7 +148,7 @@ bool RunInstall(bool start_with_windows, bool desktop_shortcut, const wchar_t* i
                        L"administrator.");
     return finish(false);
   }
-  if (!IsRegularFile(source_app) && SameFile(own, paths.app_exe)) source_app = own;
+  if (!IsRegularFile(source_app) && EqualsIgnoringCase(own, paths.app_exe)) source_app = own;
   // The usual case of a downloaded setup with its version in the name.
   if (!IsRegularFile(source_setup)) source_setup = own;
 
@@ -215,11 +198,7 @@ bool RunRepair(bool start_with_windows, bool desktop_shortcut) {
   ok = ok && (desktop_shortcut ? CreateStartMenuShortcut(paths.desktop_shortcut, paths)
                                : DeleteShortcut(paths.desktop_shortcut));
   ok = ok && WriteUninstallEntry(paths) && WriteAppRegistration(paths);
-  ok = ok && PolicyStep(L"repair-windows-update-policy",
-                        L"Oprava obnovila aplikaci, ale nemohla zapsat zásady Windows Update. "
-                        L"Spusťte instalaci znovu jako správce a opravte instalaci.",
-                        L"Repair restored the app, but could not write Windows Update policy. "
-                        L"Run setup again as administrator and repair the install.");
+  ok = ok && WriteUpdatePolicyStep(L"repair", true);
   if (ok) RemoveLegacyInstallItems(paths);
   if (SUCCEEDED(com)) CoUninitialize();
   AppendLog(ok ? L"repair ok" : L"repair failed");
@@ -260,7 +239,8 @@ int RunUninstall() {
   std::error_code ignored;
   fs::remove_all(paths.skins_dir, ignored);
   fs::remove_all(paths.assets_dir, ignored);
-  const bool running_inside = SameFile(own, paths.app_exe) || SameFile(own, paths.setup_exe);
+  const bool running_inside =
+      EqualsIgnoringCase(own, paths.app_exe) || EqualsIgnoringCase(own, paths.setup_exe);
   for (const std::wstring* file : {&paths.app_exe, &paths.setup_exe}) {
     if (!DeleteFileW(file->c_str()) && running_inside && GetLastError() != ERROR_FILE_NOT_FOUND) {
       ScheduleDeleteOnReboot(*file);
