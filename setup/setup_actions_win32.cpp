@@ -216,15 +216,11 @@ int RunUninstall() {
   }
   ForceCloseRunningGuard();
   for (const std::wstring* file :
-       {&paths.startup_shortcut, &paths.start_menu_shortcut, &paths.legacy_menu_shortcut,
-        &paths.legacy_root_shortcut, &paths.desktop_shortcut, &paths.legacy_quill_shortcut,
-        &paths.legacy_app_exe}) {
+       {&paths.startup_shortcut, &paths.start_menu_shortcut, &paths.desktop_shortcut}) {
     DeleteFileW(file->c_str());
   }
-  for (const std::wstring* folder : {&paths.legacy_menu_dir, &paths.start_menu_dir,
-                                     &paths.legacy_quill_dir, &paths.legacy_app_dir}) {
-    RemoveDirectoryW(folder->c_str());
-  }
+  // The same legacy shortcuts, copy and folders that an install clears.
+  RemoveLegacyInstallItems(paths);
   // Found before the registry is touched.
   const std::vector<std::wstring> products = FindRelatedProducts();
   RemoveAppRegistration();

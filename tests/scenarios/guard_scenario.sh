@@ -17,7 +17,6 @@ CLOSEAPP=0x00000001
 config_text() { iconv -f UTF-16 -t UTF-8 "$CONFIG" | tr -d '\r'; }
 config_has() { config_text | grep -qxF -- "$1"; }
 blocked_lines() { [ -f "$LOG" ] && grep -c '  planned shutdown/restart blocked$' "$LOG" || echo 0; }
-window_up() { wintool find StayholdHiddenWindow >/dev/null; }
 
 # Writes config.ini as the program keeps it: UTF-16LE with a byte order mark, CRLF lines.
 write_config() {

@@ -11,7 +11,6 @@ LOG=$(log_file)
 
 log_lines() { [ -f "$LOG" ] && grep -c '' "$LOG" || echo 0; }
 log_has() { [ -f "$LOG" ] && grep -q -- "  $1\$" "$LOG"; }
-window_up() { wintool find StayholdHiddenWindow >/dev/null; }
 
 # Waits for a message box with this title, takes a screenshot, and presses Enter on it.
 dismiss_notice() {

@@ -14,7 +14,6 @@ startup_link() { find "$STARTUP_DIR" -maxdepth 2 -ipath '*/startup/stayhold.lnk'
 ICON_X=12
 ICON_Y=31
 
-window_up() { wintool find StayholdHiddenWindow >/dev/null; }
 query() { wintool send StayholdHiddenWindow 0x0011 0 0 | sed -n 's/^result=//p'; }
 tray_up() { xdotool search --name 'Wine System Tray' >/dev/null 2>&1; }
 

@@ -11,6 +11,7 @@
 #   data_dir, log_file      Linux paths of the user's Stayhold data folder and log
 #   shot NAME               screenshot of the whole screen into the artifacts
 #   fail MESSAGE            report and end the suite with failure
+#   window_up               the guard's hidden window exists
 set -u
 
 : "${STAYHOLD_BUILD:?STAYHOLD_BUILD must name the Windows build tree}"
@@ -132,6 +133,10 @@ win_exit_code() {
     "") echo "no-answer" ;;  # the helper itself was ended, as at a suite's clean-up
     *) fail "could not start $* ($out)" ;;
   esac
+}
+
+window_up() {
+  wintool find StayholdHiddenWindow >/dev/null
 }
 
 data_dir() {
