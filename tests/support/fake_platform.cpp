@@ -3,6 +3,7 @@
 #include <cwctype>
 
 #include "guard/log.h"
+#include "guard/wide_text.h"
 #include "update/update_check.h"
 #include "i18n/locale_system.h"
 #include "tests/support/fake_machine_registry.h"
@@ -121,13 +122,7 @@ bool LocaleInfoText(const std::wstring& tag, uint32_t lctype, std::wstring& out)
 }
 
 bool EqualsOrdinalIgnoreCase(const std::wstring& a, const std::wstring& b) {
-  if (a.size() != b.size()) return false;
-  for (size_t i = 0; i < a.size(); ++i) {
-    if (std::towupper(static_cast<wint_t>(a[i])) != std::towupper(static_cast<wint_t>(b[i]))) {
-      return false;
-    }
-  }
-  return true;
+  return EqualsIgnoringCase(a, b);
 }
 
 void AppendLog(const std::wstring& message) {
