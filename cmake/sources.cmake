@@ -29,6 +29,26 @@ set(STAYHOLD_PORTABLE_SOURCES
   update/update_state.cpp
   update/version_compare.cpp
   ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp
+  # toolkit
+  tessel/paint/alpha_bands.cpp
+  tessel/paint/color.cpp
+  tessel/paint/image.cpp
+  tessel/paint/material_kind.cpp
+  tessel/paint/shape_fill.cpp
+  tessel/paint/shape_geometry.cpp
+  tessel/paint/shape_kind.cpp
+  tessel/paint/surface_outline.cpp
+  tessel/paint/gradient_words.cpp
+  tessel/skin/control_style_parsers.cpp
+  tessel/skin/json_access.cpp
+  tessel/skin/json_value.cpp
+  tessel/skin/material_preset.cpp
+  tessel/skin/property_table.cpp
+  tessel/skin/style_builders.cpp
+  tessel/skin/style_reader.cpp
+  tessel/skin/surface_builder.cpp
+  tessel/skin/surface_parser.cpp
+  tessel/skin/theme.cpp
 )
 
 # The thin Windows layer beside them.

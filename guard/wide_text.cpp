@@ -1,13 +1,21 @@
 #include "guard/wide_text.h"
 
+#include <cstdint>
 #include <cwctype>
+
+bool IsWhiteSpace(wchar_t c) {
+  if (std::iswspace(static_cast<wint_t>(c))) return true;
+  const uint32_t code = static_cast<uint32_t>(c);
+  return code == 0x85 || code == 0xA0 || code == 0x1680 || (code >= 0x2000 && code <= 0x200A) ||
+         code == 0x2028 || code == 0x2029 || code == 0x202F || code == 0x205F || code == 0x3000;
+}
 
 std::wstring TrimWhiteSpace(const std::wstring& text) {
   size_t begin = 0;
   size_t end = text.size();
-  while (begin < end && std::iswspace(static_cast<wint_t>(text[begin])))
+  while (begin < end && IsWhiteSpace(text[begin]))
     ++begin;
-  while (end > begin && std::iswspace(static_cast<wint_t>(text[end - 1])))
+  while (end > begin && IsWhiteSpace(text[end - 1]))
     --end;
   return text.substr(begin, end - begin);
 }

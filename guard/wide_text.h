@@ -3,7 +3,11 @@
 
 #include <string>
 
-// White space trimmed at both ends, by iswspace.
+// White space as Windows' iswspace sees it: the C runtime's set plus the Unicode spaces, which
+// the C library here only knows under a non-C locale.
+bool IsWhiteSpace(wchar_t c);
+
+// White space trimmed at both ends, by IsWhiteSpace.
 std::wstring TrimWhiteSpace(const std::wstring& text);
 
 // Equal after towlower of each character (the C runtime's case rules, not the locale's).

@@ -37,6 +37,9 @@ TEST(TrimWhiteSpace, BothEnds) {
   EXPECT_EQ(TrimWhiteSpace(L" \t "), L"");
   EXPECT_EQ(TrimWhiteSpace(L""), L"");
   EXPECT_EQ(TrimWhiteSpace(L"x"), L"x");
+  // Unicode spaces count too, whatever the C library's locale.
+  EXPECT_EQ(TrimWhiteSpace(FromUnits({0x3000, 'a', 0xA0, 0x2003})), L"a");
+  EXPECT_EQ(TrimWhiteSpace(FromUnits({0x200B, 'a'})), FromUnits({0x200B, 'a'}));  // zero width
 }
 
 TEST(DecimalText, Digits) {

@@ -1,0 +1,27 @@
+// Colours as the toolkit keeps them in memory: 0x00BBGGRR, the layout of a Windows COLORREF,
+// so that a value passes to GDI unchanged. Skins write #RRGGBB; the skin reader converts.
+#pragma once
+
+#include <cstdint>
+
+namespace tessel {
+
+using Color = uint32_t;
+
+constexpr Color rgbColor(uint32_t red, uint32_t green, uint32_t blue) {
+  return (red & 0xFF) | ((green & 0xFF) << 8) | ((blue & 0xFF) << 16);
+}
+constexpr uint32_t redOf(Color c) {
+  return c & 0xFF;
+}
+constexpr uint32_t greenOf(Color c) {
+  return (c >> 8) & 0xFF;
+}
+constexpr uint32_t blueOf(Color c) {
+  return (c >> 16) & 0xFF;
+}
+
+// a + (b - a) * t per channel with t clamped to 0..1, truncated toward zero.
+Color mixColor(Color a, Color b, double t);
+
+}  // namespace tessel

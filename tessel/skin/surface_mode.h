@@ -1,0 +1,20 @@
+// The overall rendering style of a skin, which re-derives every surface from the palette.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tessel {
+
+enum class SurfaceMode : int32_t {
+  Flat2d = 0,
+  Sculpted3d = 1,
+  Textured = 2,
+  BitmapPlates = 3,
+  WindowsClean = 4,
+};
+
+// Trimmed and lower-cased; any word that isn't known gives Sculpted3d.
+SurfaceMode parseSurfaceMode(const std::wstring& text);
+
+}  // namespace tessel

@@ -1,0 +1,110 @@
+#include "tests/support/golden_image.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include "tests/support/source_files.h"
+
+namespace {
+
+// Red and blue trade places; the same swap maps either way.
+void swapRedBlue(std::vector<uint8_t>& bytes) {
+  for (size_t i = 0; i + 3 < bytes.size(); i += 4)
+    std::swap(bytes[i], bytes[i + 2]);
+}
+
+std::string describePixel(const uint8_t* bgra) {
+  std::ostringstream text;
+  text << "rgba(" << int(bgra[2]) << "," << int(bgra[1]) << "," << int(bgra[0]) << ","
+       << int(bgra[3]) << ")";
+  return text.str();
+}
+
+}  // namespace
+
+bool WritePamImage(const std::filesystem::path& path, const tessel::Image& image) {
+  if (image.empty()) return false;
+  std::error_code ignored;
+  std::filesystem::create_directories(path.parent_path(), ignored);
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  if (!file) return false;
+  file << "P7\nWIDTH " << image.width << "\nHEIGHT " << image.height
+       << "\nDEPTH 4\nMAXVAL 255\nTUPLTYPE RGB_ALPHA\nENDHDR\n";
+  std::vector<uint8_t> bytes = *image.pixels;
+  swapRedBlue(bytes);
+  file.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(bytes.size()));
+  return bool(file);
+}
+
+bool ReadPamImage(const std::filesystem::path& path, tessel::Image& image) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return false;
+  std::string line;
+  if (!std::getline(file, line) || line != "P7") return false;
+  long width = 0, height = 0, depth = 0, maxval = 0;
+  while (std::getline(file, line) && line != "ENDHDR") {
+    std::istringstream fields(line);
+    std::string key;
+    fields >> key;
+    if (key == "WIDTH")
+      fields >> width;
+    else if (key == "HEIGHT")
+      fields >> height;
+    else if (key == "DEPTH")
+      fields >> depth;
+    else if (key == "MAXVAL")
+      fields >> maxval;
+  }
+  if (line != "ENDHDR" || depth != 4 || maxval != 255 || width < 1 || height < 1 ||
+      width > 1 << 14 || height > 1 << 14)
+    return false;
+  tessel::Image read = tessel::Image::blank(int32_t(width), int32_t(height));
+  std::vector<uint8_t>& bytes = *read.pixels;
+  if (!file.read(reinterpret_cast<char*>(bytes.data()), std::streamsize(bytes.size())))
+    return false;
+  swapRedBlue(bytes);
+  image = read;
+  return true;
+}
+
+::testing::AssertionResult MatchesGoldenImage(const tessel::Image& image,
+                                              const std::string& relative, int tolerance) {
+  const std::filesystem::path path = SourceFile(relative);
+  if (RegeneratingGoldenImages()) {
+    if (!WritePamImage(path, image))
+      return ::testing::AssertionFailure() << "cannot write " << path.string();
+    return ::testing::AssertionSuccess();
+  }
+  tessel::Image expected;
+  if (!ReadPamImage(path, expected))
+    return ::testing::AssertionFailure()
+           << "cannot read " << path.string() << " (regenerate with STAYHOLD_REGENERATE_GOLDEN=1)";
+  if (image.empty() || expected.width != image.width || expected.height != image.height)
+    return ::testing::AssertionFailure()
+           << relative << ": size " << image.width << "x" << image.height << ", expected "
+           << expected.width << "x" << expected.height;
+  int64_t differing = 0;
+  std::string first;
+  for (int32_t y = 0; y < image.height; ++y) {
+    for (int32_t x = 0; x < image.width; ++x) {
+      const uint8_t* got = image.pixel(x, y);
+      const uint8_t* want = expected.pixel(x, y);
+      bool same = true;
+      for (int channel = 0; channel < 4; ++channel)
+        same = same && std::abs(int(got[channel]) - int(want[channel])) <= tolerance;
+      if (same) continue;
+      if (differing++ == 0) {
+        std::ostringstream text;
+        text << "(" << x << ", " << y << ") is " << describePixel(got) << ", expected "
+             << describePixel(want);
+        first = text.str();
+      }
+    }
+  }
+  if (differing == 0) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure()
+         << relative << ": " << differing << " pixel(s) differ beyond " << tolerance << "; first "
+         << first;
+}
