@@ -71,11 +71,16 @@ struct ModeCase {
 };
 
 const ModeCase kModeCases[] = {
-    {L"flat-2d", SurfaceMode::Flat2d},     {L" FLAT ", SurfaceMode::Flat2d},
-    {L"2d", SurfaceMode::Flat2d},          {L"sculpted", SurfaceMode::Sculpted3d},
-    {L"neon", SurfaceMode::Sculpted3d},    {L"", SurfaceMode::Sculpted3d},
-    {L"material", SurfaceMode::Textured},  {L"plates", SurfaceMode::BitmapPlates},
-    {L"windows-clean", SurfaceMode::WindowsClean}, {L"flat_2d", SurfaceMode::Sculpted3d},
+    {L"flat-2d", SurfaceMode::Flat2d},
+    {L" FLAT ", SurfaceMode::Flat2d},
+    {L"2d", SurfaceMode::Flat2d},
+    {L"sculpted", SurfaceMode::Sculpted3d},
+    {L"neon", SurfaceMode::Sculpted3d},
+    {L"", SurfaceMode::Sculpted3d},
+    {L"material", SurfaceMode::Textured},
+    {L"plates", SurfaceMode::BitmapPlates},
+    {L"windows-clean", SurfaceMode::WindowsClean},
+    {L"flat_2d", SurfaceMode::Sculpted3d},
 };
 
 TEST(ParseSurfaceMode, WordsAndFallback) {
@@ -137,12 +142,24 @@ struct GradientWordCase {
 };
 
 const GradientWordCase kGradientWordCases[] = {
-    {L"Top_To_Bottom", true, 0},  {L"up", true, 1},          {L"right", true, 2},
-    {L"right-to-left", true, 3},  {L"diagonal", true, 4},    {L"downleft", true, 5},
-    {L"upright", true, 6},        {L"upleft", true, 7},      {L"7", true, 7},
-    {L"8", true, -1},             {L"sideways", true, -1},   {L"linear", false, 0},
-    {L"mirrored", false, 1},      {L"circle", false, 2},     {L"diamond", false, 3},
-    {L"Angular", false, 4},       {L"5", false, -1},         {L"spiral", false, -1},
+    {L"Top_To_Bottom", true, 0},
+    {L"up", true, 1},
+    {L"right", true, 2},
+    {L"right-to-left", true, 3},
+    {L"diagonal", true, 4},
+    {L"downleft", true, 5},
+    {L"upright", true, 6},
+    {L"upleft", true, 7},
+    {L"7", true, 7},
+    {L"8", true, -1},
+    {L"sideways", true, -1},
+    {L"linear", false, 0},
+    {L"mirrored", false, 1},
+    {L"circle", false, 2},
+    {L"diamond", false, 3},
+    {L"Angular", false, 4},
+    {L"5", false, -1},
+    {L"spiral", false, -1},
 };
 
 TEST(GradientWords, DirectionsAndKinds) {
