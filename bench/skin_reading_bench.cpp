@@ -3,11 +3,14 @@
 // keys, as a window does when it applies a skin.
 #include <benchmark/benchmark.h>
 
+#include <filesystem>
 #include <string>
 
 #include "guard/wide_text.h"
 #include "tessel/skin/control_styles.h"
 #include "tessel/skin/json_value.h"
+#include "tessel/skin/skin_catalogue.h"
+#include "tessel/skin/style_sheet.h"
 #include "tessel/skin/style_builders.h"
 
 namespace {
@@ -138,5 +141,28 @@ void FlattenAndParseStyleSet(benchmark::State& state) {
   }
 }
 BENCHMARK(FlattenAndParseStyleSet)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+namespace {
+
+// What a process does once at start: the four shipped files parsed into the catalogue, and the
+// sheet of one skin built, as the first window applies it.
+void ShippedCatalogueAndOneSheet(benchmark::State& state) {
+  const std::wstring folder = std::filesystem::path(STAYHOLD_SOURCE_DIR "/skins").wstring();
+  size_t skins = 0;
+  for (auto _ : state) {
+    const std::vector<SkinDefinition> catalogue = loadSkinFolder(folder);
+    skins = catalogue.size();
+    if (catalogue.empty()) {
+      state.SkipWithError("no shipped skins found");
+      break;
+    }
+    const StyleSheet sheet(*findSkinOrDefault(catalogue, L"stayhold-tactical-3d"));
+    benchmark::DoNotOptimize(sheet.buttons.get(L"stayhold-primary"));
+  }
+  state.counters["skins"] = static_cast<double>(skins);
+}
+BENCHMARK(ShippedCatalogueAndOneSheet)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -39,13 +39,17 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/shape_kind.cpp
   tessel/paint/surface_outline.cpp
   tessel/paint/gradient_words.cpp
+  tessel/skin/app_skin_catalogue.cpp
   tessel/skin/control_style_parsers.cpp
   tessel/skin/json_access.cpp
   tessel/skin/json_value.cpp
   tessel/skin/material_preset.cpp
   tessel/skin/property_table.cpp
+  tessel/skin/skin_catalogue.cpp
+  tessel/skin/skin_definition.cpp
   tessel/skin/style_builders.cpp
   tessel/skin/style_reader.cpp
+  tessel/skin/style_sheet.cpp
   tessel/skin/surface_builder.cpp
   tessel/skin/surface_parser.cpp
   tessel/skin/theme.cpp

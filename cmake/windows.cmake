@@ -40,6 +40,12 @@ target_sources(stayhold_app PRIVATE setup/payload_table_app.cpp)
 
 # The Windows Installer package of the application, embedded in the setup as its payload.
 set(STAYHOLD_MSI ${CMAKE_BINARY_DIR}/package/Stayhold.msi)
+file(GLOB STAYHOLD_ASSET_IMAGES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/assets/*.png)
+set(STAYHOLD_SKIN_FILES
+  ${CMAKE_SOURCE_DIR}/skins/00-tessel-default-skins.json
+  ${CMAKE_SOURCE_DIR}/skins/01-tessel-black-gemstone-skins.json
+  ${CMAKE_SOURCE_DIR}/skins/02-tessel-material-gallery-skins.json
+  ${CMAKE_SOURCE_DIR}/skins/stayhold-tactical-3d.json)
 add_custom_command(
   OUTPUT ${STAYHOLD_MSI}
   COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/package
@@ -47,13 +53,22 @@ add_custom_command(
           ${STAYHOLD_ICON_FILE} ${PROJECT_VERSION}
   WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
   DEPENDS stayhold_app ${STAYHOLD_ICON_FILE} ${CMAKE_SOURCE_DIR}/package/stayhold.wxs
-          ${CMAKE_SOURCE_DIR}/package/build_msi.sh
+          ${CMAKE_SOURCE_DIR}/package/build_msi.sh ${STAYHOLD_ASSET_IMAGES} ${STAYHOLD_SKIN_FILES}
+          ${CMAKE_SOURCE_DIR}/skins/HOW_TO_CREATE_CUSTOM_SKIN.txt
   COMMENT "Building the Windows Installer package")
 add_custom_target(stayhold_msi DEPENDS ${STAYHOLD_MSI})
 
 set(STAYHOLD_PAYLOAD_RC ${CMAKE_BINARY_DIR}/generated/payload.rc)
+# The setup also carries the skin files, so that its own dialogs are skinned before anything is
+# installed; resource ids follow the order of the payload table.
 file(WRITE ${STAYHOLD_PAYLOAD_RC} "3001 SHDPAYLOAD \"${STAYHOLD_MSI}\"\n")
-set_source_files_properties(${STAYHOLD_PAYLOAD_RC} PROPERTIES OBJECT_DEPENDS ${STAYHOLD_MSI})
+set(resource_id 3002)
+foreach(skin_file ${STAYHOLD_SKIN_FILES})
+  file(APPEND ${STAYHOLD_PAYLOAD_RC} "${resource_id} SHDPAYLOAD \"${skin_file}\"\n")
+  math(EXPR resource_id "${resource_id} + 1")
+endforeach()
+set_source_files_properties(${STAYHOLD_PAYLOAD_RC} PROPERTIES OBJECT_DEPENDS
+  "${STAYHOLD_MSI};${STAYHOLD_SKIN_FILES}")
 
 stayhold_executable(stayhold_setup StayholdSetup "Stayhold Setup")
 target_sources(stayhold_setup PRIVATE ${STAYHOLD_PAYLOAD_RC} setup/payload_table_setup.cpp)

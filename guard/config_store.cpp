@@ -8,6 +8,7 @@
 #include "guard/paths.h"
 #include "guard/wide_text.h"
 #include "i18n/language.h"
+#include "tessel/skin/app_skin_catalogue.h"
 
 namespace {
 
@@ -137,9 +138,7 @@ WindowUiState NormalizeUiState(WindowUiState state) {
 
 StayholdConfig NormalizeConfig(StayholdConfig config) {
   config.language = NormalizeLanguageSetting(config.language);
-  // The stored skin id stands until the skin catalogue can repair it; only an empty one falls
-  // back to the default skin.
-  if (TrimWhiteSpace(config.skin_id).empty()) config.skin_id = L"win11-auto";
+  config.skin_id = tessel::repairedSkinId(tessel::appSkinCatalogue(), config.skin_id);
   config.ui_performance_profile = NormalizeUiPerformanceProfile(config.ui_performance_profile);
   for (BehaviorProfile& profile : config.profiles) {
     profile.name = TrimWhiteSpace(profile.name);

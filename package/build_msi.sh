@@ -13,7 +13,8 @@ rel() { realpath --relative-to="$PWD" "$1"; }
 tmp="$out.tmp"
 rm -f "$tmp"
 wixl -a x64 -D AppExe="$(rel "$app")" -D IconFile="$(rel "$icon")" -D Version="$version" \
-  -o "$tmp" "$here/stayhold.wxs"
+  -D AssetsDir="$(rel "$here/../assets")" \
+  -D SkinsDir="$(rel "$here/../skins")" -o "$tmp" "$here/stayhold.wxs"
 condition() {
   msibuild "$tmp" -q "UPDATE Component SET Condition = '$2' WHERE Component = '$1'"
 }

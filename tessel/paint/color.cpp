@@ -1,5 +1,7 @@
 #include "tessel/paint/color.h"
 
+#include <cmath>
+
 namespace tessel {
 
 namespace {
@@ -16,6 +18,37 @@ Color mixColor(Color a, Color b, double t) {
   if (t > 1.0) t = 1.0;
   return rgbColor(mixChannel(redOf(a), redOf(b), t), mixChannel(greenOf(a), greenOf(b), t),
                   mixChannel(blueOf(a), blueOf(b), t));
+}
+
+namespace {
+
+double linearChannel(uint32_t channel) {
+  const double c = channel / 255.0;
+  return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+}
+
+double luminance(Color c) {
+  return 0.2126 * linearChannel(redOf(c)) + 0.7152 * linearChannel(greenOf(c)) +
+         0.0722 * linearChannel(blueOf(c));
+}
+
+}  // namespace
+
+double contrastRatio(Color a, Color b) {
+  const double la = luminance(a);
+  const double lb = luminance(b);
+  return la > lb ? (la + 0.05) / (lb + 0.05) : (lb + 0.05) / (la + 0.05);
+}
+
+Color readableFill(Color fill, Color text, double minimum) {
+  if (contrastRatio(fill, text) >= minimum) return fill;
+  // Light text wants a darker fill and dark text a lighter one.
+  const Color target = luminance(text) > 0.18 ? rgbColor(0, 0, 0) : rgbColor(255, 255, 255);
+  for (int step = 1; step <= 20; ++step) {
+    const Color candidate = mixColor(fill, target, step / 20.0);
+    if (contrastRatio(candidate, text) >= minimum) return candidate;
+  }
+  return target;
 }
 
 }  // namespace tessel

@@ -24,4 +24,11 @@ constexpr uint32_t blueOf(Color c) {
 // a + (b - a) * t per channel with t clamped to 0..1, truncated toward zero.
 Color mixColor(Color a, Color b, double t);
 
+// The contrast ratio of two colours by relative luminance, 1 to 21.
+double contrastRatio(Color a, Color b);
+
+// `fill`, or the nearest step of it toward black or white (away from `text`) at which `text`
+// reaches `minimum` contrast, so that derived surfaces keep their text readable.
+Color readableFill(Color fill, Color text, double minimum = 4.6);
+
 }  // namespace tessel

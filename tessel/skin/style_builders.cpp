@@ -34,6 +34,14 @@ Color restFill(const Theme& theme) {
   return mixColor(theme.control, theme.border, 0.18);
 }
 
+// Moves a surface's colours just far enough that `text` stays readable on all of them.
+void keepReadable(SurfaceStyle& surface, Color text, double minimum = 4.6) {
+  surface.fill = readableFill(surface.fill, text, minimum);
+  surface.gradientStart = readableFill(surface.gradientStart, text, minimum);
+  surface.gradientMid = readableFill(surface.gradientMid, text, minimum);
+  surface.gradientEnd = readableFill(surface.gradientEnd, text, minimum);
+}
+
 SurfaceStyle surface(const Theme& theme, SurfaceMode mode, Color from, Color toward, double amount,
                      Color border, uint32_t seed, bool elevated = true,
                      ShapeKind shape = ShapeKind::Rectangle) {
@@ -123,13 +131,16 @@ ControlStates controlStates(const Theme& theme, SurfaceMode mode, const StateCol
   states.normal =
       surface(theme, mode, colors.normal, theme.frame, 0.22, colors.border, seed, true, shape);
   states.hot =
-      surface(theme, mode, colors.hot, theme.text, 0.18, colors.borderHot, seed, true, shape);
+      surface(theme, mode, colors.hot, theme.frame, 0.18, colors.borderHot, seed, true, shape);
   states.pressed =
       surface(theme, mode, colors.pressed, theme.frame, 0.30, colors.borderHot, seed, false, shape);
   states.disabled = surface(theme, mode, theme.disabledFill, theme.frame, 0.18,
                             mixColor(theme.border, theme.disabledFill, 0.5), seed, false, shape);
   states.active =
-      surface(theme, mode, colors.active, theme.text, 0.22, colors.borderHot, seed, true, shape);
+      surface(theme, mode, colors.active, theme.frame, 0.22, colors.borderHot, seed, true, shape);
+  for (SurfaceStyle* state : {&states.normal, &states.hot, &states.pressed, &states.active})
+    keepReadable(*state, colors.text);
+  keepReadable(states.disabled, theme.disabledText, 2.2);
   return states;
 }
 
@@ -202,6 +213,8 @@ PanelStyle buildPanelStyle(const Theme& theme, SurfaceMode mode, PanelTone tone)
           surface(theme, mode, theme.panel, theme.shell, 0.30, theme.border, kPanelSeed, false);
       break;
   }
+  keepReadable(style.surface, theme.text);
+  keepReadable(style.surface, theme.mutedText, 3.1);
   return style;
 }
 
@@ -230,6 +243,9 @@ CardStyle buildCardStyle(const Theme& theme, SurfaceMode mode, CardTone tone) {
                        ShapeKind::RoundedRect);
   style.titleText = buildTextStyle(theme, TextTone::Title);
   style.subtitleText = buildTextStyle(theme, TextTone::Muted);
+  keepReadable(style.header, style.titleText.color);
+  keepReadable(style.surface, theme.text);
+  keepReadable(style.surface, style.subtitleText.color, 3.1);
   return style;
 }
 
@@ -247,6 +263,7 @@ ChromeTitleBarStyle buildChromeTitleBarStyle(const Theme& theme, SurfaceMode mod
   style.titleButton.surface.normal.useGradient = false;
   style.titleText = buildTextStyle(theme, TextTone::Title);
   style.titleText.pointSize = 10;
+  keepReadable(style.surface, style.titleText.color);
   return style;
 }
 
@@ -255,6 +272,7 @@ StatusChipStyle buildStatusChipStyle(const Theme& theme, SurfaceMode mode) {
   style.surface = plate(theme, mode, restFill(theme), theme.border, kChipSeed, ShapeKind::Capsule);
   style.badge = plate(theme, mode, theme.accent, theme.accentHot, kChipSeed, ShapeKind::Capsule);
   style.text = smallText(theme, 600);
+  keepReadable(style.surface, style.text.color);
   return style;
 }
 
@@ -327,6 +345,10 @@ SelectBoxStyle buildSelectBoxStyle(const Theme& theme, SurfaceMode mode) {
   style.scrollBar = buildScrollBarStyle(theme, mode);
   style.text = theme.uiFont;
   style.arrowColor = theme.accentHot;
+  for (SurfaceStyle* s :
+       {&style.surface, &style.hotSurface, &style.pressedSurface, &style.dropdownSurface,
+        &style.optionHotSurface, &style.optionSelectedSurface})
+    keepReadable(*s, style.text.color);
   return style;
 }
 
@@ -349,6 +371,9 @@ HierarchicalListBoxStyle buildHierarchicalListBoxStyle(const Theme& theme, Surfa
   style.disabledText = theme.uiFont;
   style.disabledText.color = theme.disabledText;
   style.separator = mixColor(theme.border, theme.shell, 0.4);
+  keepReadable(style.surface, style.text.color);
+  keepReadable(style.selectedRow, style.selectedText.color);
+  keepReadable(style.selectedRowHot, style.selectedText.color);
   return style;
 }
 
@@ -383,6 +408,7 @@ DateInputStyle buildDateInputStyle(const Theme& theme, SurfaceMode mode) {
   style.mutedDayText = buildTextStyle(theme, TextTone::Muted);
   style.mutedDayText.color = theme.disabledText;
   style.arrowColor = theme.accentHot;
+  keepReadable(style.surface, style.text.color);
   return style;
 }
 
@@ -414,6 +440,9 @@ MenuBarStyle buildMenuBarStyle(const Theme& theme, SurfaceMode mode) {
   style.separator = mixColor(theme.border, theme.text, 0.15);
   style.check = theme.accentHot;
   style.arrow = theme.mutedText;
+  for (SurfaceStyle* s : {&style.surface, &style.popupSurface, &style.itemHotSurface,
+                          &style.popupItemHotSurface, &style.itemPressedSurface})
+    keepReadable(*s, style.itemText.color);
   return style;
 }
 
@@ -439,6 +468,9 @@ TableListStyle buildTableListStyle(const Theme& theme, SurfaceMode mode) {
   style.resizeGripHot = theme.accentHot;
   style.sortIndicator = theme.mutedText;
   style.sortIndicatorHot = theme.accentHot;
+  keepReadable(style.surface, style.rowText.color);
+  keepReadable(style.header, style.headerText.color);
+  keepReadable(style.selectedRow, style.selectedText.color);
   return style;
 }
 
@@ -451,6 +483,8 @@ RichTextStyle buildRichTextStyle(const Theme& theme, SurfaceMode mode) {
   style.linkText = style.text;
   style.linkText.color = theme.accentHot;
   style.linkText.underline = true;
+  keepReadable(style.surface, style.text.color);
+  keepReadable(style.surface, style.linkText.color);
   return style;
 }
 
@@ -480,6 +514,9 @@ TextInputStyle buildTextInputStyle(const Theme& theme, SurfaceMode mode) {
   style.attachmentText = buildTextStyle(theme, TextTone::Muted);
   style.caretColor = theme.textHot;
   style.attachmentIconColor = theme.mutedText;
+  for (SurfaceStyle* s : {&style.surface, &style.hotSurface, &style.focusedSurface})
+    keepReadable(*s, style.text.color);
+  keepReadable(style.surface, style.placeholderText.color, 3.1);
   return style;
 }
 
@@ -492,6 +529,7 @@ SelectableTextStyle buildSelectableTextStyle(const Theme& theme, SurfaceMode mod
   style.text = theme.monoFont;
   style.selectedText = theme.monoFont;
   style.selectedText.color = theme.textHot;
+  keepReadable(style.surface, style.text.color);
   return style;
 }
 
@@ -509,6 +547,8 @@ PopupStyle buildPopupStyle(const Theme& theme, SurfaceMode mode) {
   style.messageText.weight = 400;
   style.iconText = smallText(theme, 700);
   style.iconText.color = theme.shell;
+  keepReadable(style.header, style.titleText.color);
+  keepReadable(style.surface, style.messageText.color);
   return style;
 }
 
@@ -522,6 +562,7 @@ TooltipStyle buildTooltipStyle(const Theme& theme, SurfaceMode mode) {
   style.textStyle = smallText(theme, 400);
   style.iconText = smallText(theme, 700);
   style.iconText.color = theme.shell;
+  keepReadable(style.surface, style.textStyle.color);
   return style;
 }
 
@@ -530,6 +571,7 @@ WindowStyle buildWindowStyle(const Theme& theme, SurfaceMode mode) {
   style.surface =
       surface(theme, mode, theme.shell, theme.panel, 0.35, theme.frame, kWindowSeed, false);
   style.fallbackBackground = theme.shell;
+  keepReadable(style.surface, theme.text);
   return style;
 }
 

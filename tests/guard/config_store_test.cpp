@@ -338,7 +338,8 @@ TEST(SaveConfig, RoundTripKeepsEverything) {
   const StayholdConfig loaded = LoadConfig();
   EXPECT_EQ(loaded.guard_enabled, false);
   EXPECT_EQ(loaded.language, L"ja-JP");
-  EXPECT_EQ(loaded.skin_id, L"custom-skin");
+  // No skin exists in this process, so the stored id is repaired to the default on the way.
+  EXPECT_EQ(loaded.skin_id, L"win11-auto");
   EXPECT_EQ(loaded.ui_performance_profile, L"best-graphics");
   EXPECT_EQ(loaded.active_profile_index, 1);
   ASSERT_EQ(loaded.profiles.size(), 2u);

@@ -29,5 +29,24 @@ done
 expect Registry 'InstallLocation\t\[INSTALLFOLDER\]' "install folder recorded"
 expect Directory '^INSTALLFOLDER\tProgramFiles64Folder\tStayhold$' "default folder"
 expect Media 'cab1\.cab' "one embedded cabinet"
+expect Directory '^AssetsDir\tINSTALLFOLDER\tassets$' "assets folder"
+n=0
+for base in check_updates update_available chrome_close chrome_maximize chrome_minimize chrome_restore; do
+  for state in "" _hot _pressed _disabled; do
+    n=$((n + 1))
+    expect Component "^cmpAsset$n\t\{[0-9A-F-]{36}\}\tAssetsDir\t" "image component $n"
+    expect File "^Asset$n\tcmpAsset$n\t([^\t|]*\|)?stayhold_$base$state\.png\t[1-9]" "stayhold_$base$state.png"
+    expect FeatureComponents "^MainFeature\tcmpAsset$n$" "image component $n in the feature"
+  done
+done
+expect Directory '^SkinsDir\tINSTALLFOLDER\tskins$' "skins folder"
+n=0
+for skin_file in 00-tessel-default-skins.json 01-tessel-black-gemstone-skins.json \
+    02-tessel-material-gallery-skins.json stayhold-tactical-3d.json HOW_TO_CREATE_CUSTOM_SKIN.txt; do
+  n=$((n + 1))
+  expect Component "^cmpSkin$n\t\{[0-9A-F-]{36}\}\tSkinsDir\t" "skin component $n"
+  expect File "^Skin$n\tcmpSkin$n\t([^\t|]*\|)?${skin_file//./\\.}\t[1-9]" "$skin_file"
+  expect FeatureComponents "^MainFeature\tcmpSkin$n$" "skin component $n in the feature"
+done
 echo "package tables: $failures failed"
 [ "$failures" -eq 0 ]

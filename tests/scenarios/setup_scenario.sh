@@ -21,6 +21,17 @@ reg_value() { wine_exe reg query "$1" /v "$2" 2>/dev/null | tr -d '\r' | awk -v 
 echo "--- a default install"
 [ "$(setup --install)" = 0 ] || fail "--install did not exit 0"
 [ -f "$C/Program Files/Stayhold/Stayhold.exe" ] || fail "Stayhold.exe not installed"
+for skin_file in 00-tessel-default-skins.json 01-tessel-black-gemstone-skins.json \
+    02-tessel-material-gallery-skins.json stayhold-tactical-3d.json HOW_TO_CREATE_CUSTOM_SKIN.txt; do
+  cmp -s "$C/Program Files/Stayhold/skins/$skin_file" "$STAYHOLD_SOURCE/skins/$skin_file" ||
+    fail "skins/$skin_file not installed as shipped"
+done
+[ "$(find "$C/Program Files/Stayhold/assets" -maxdepth 1 -name '*.png' | wc -l)" = 24 ] ||
+  fail "the 24 images are not installed"
+# The setup wrote the skins it carries to its cache for its own dialogs.
+CACHE="$C/users/$WIN_USER/AppData/Local/Stayhold/setup-skin-cache"
+cmp -s "$CACHE/stayhold-tactical-3d.json" "$STAYHOLD_SOURCE/skins/stayhold-tactical-3d.json" ||
+  fail "the setup skin cache does not hold the tactical skin"
 [ "$(reg_value 'HKLM\Software\Marlowen\Stayhold' InstallLocation)" = 'C:\Program' ] ||
   fail "InstallLocation not written"
 link_exists "$PROGRAMS/Marlowen" || fail "no Start menu shortcut"

@@ -1,0 +1,540 @@
+#include "tessel/skin/style_sheet.h"
+
+#include <algorithm>
+
+#include "tessel/skin/material_preset.h"
+#include "tessel/skin/style_builders.h"
+
+namespace tessel {
+
+namespace {
+
+template <typename F>
+void eachState(ControlStates& states, F&& f) {
+  states.each(std::forward<F>(f));
+}
+
+void shapeStates(ControlStates& states, ShapeKind kind) {
+  states.each([&](SurfaceStyle& state) { state.shape = kind; });
+}
+
+// The first non-empty value among the base keys, normalized as ids are.
+std::wstring baseKey(const PropertyTable& properties) {
+  for (const wchar_t* key :
+       {L"base", L"baseid", L"basedon", L"extends", L"inherit", L"inherits", L"from"}) {
+    const auto found = properties.find(key);
+    if (found != properties.end() && !found->second.empty()) return normalizeKey(found->second);
+  }
+  return std::wstring();
+}
+
+template <typename Record, typename Fresh, typename Parse>
+void overrideIn(StyleMap<Record>& map, const StyleOverride& entry, const StyleContext& context,
+                Fresh fresh, Parse parse) {
+  Record record;
+  const std::wstring base = baseKey(entry.properties);
+  if (const Record* named = base.empty() ? nullptr : map.find(base)) {
+    record = *named;
+  } else if (const Record* own = map.find(entry.id)) {
+    record = *own;
+  } else {
+    record = fresh();
+  }
+  parse(StyleReader(entry.properties, L"", context), record);
+  map.set(entry.id, std::move(record));
+}
+
+bool typeIs(const std::wstring& type, std::initializer_list<const wchar_t*> spellings) {
+  for (const wchar_t* spelling : spellings)
+    if (type == normalizeKey(spelling)) return true;
+  return false;
+}
+
+struct Deltas {
+  int32_t normal, hot, pressed, active, disabled;
+};
+
+void materialStates(ControlStates& states, const MaterialProfile& profile, MaterialKind kind,
+                    Deltas d) {
+  applyMaterial(states.normal, profile, kind, d.normal);
+  applyMaterial(states.hot, profile, kind, d.hot);
+  applyMaterial(states.pressed, profile, kind, d.pressed);
+  applyMaterial(states.active, profile, kind, d.active);
+  applyMaterial(states.disabled, profile, kind, d.disabled);
+}
+
+constexpr Deltas kControlDeltas{-10, -2, -16, 0, -24};
+constexpr Deltas kQuietDeltas{-14, -6, -20, -4, -26};
+constexpr Deltas kAccentDeltas{8, 16, 2, 18, -18};
+constexpr Deltas kThumbDeltas{-8, 0, -14, 2, -20};
+
+void materialScrollBar(ScrollBarStyle& bar, const MaterialProfile& profile) {
+  applyMaterial(bar.track, profile, profile.surface, -14);
+  materialStates(bar.thumb, profile, profile.control, kThumbDeltas);
+  materialStates(bar.decrementButton, profile, profile.control, kQuietDeltas);
+  materialStates(bar.incrementButton, profile, profile.control, kQuietDeltas);
+}
+
+}  // namespace
+
+void applyMaterial(SurfaceStyle& surface, const MaterialProfile& profile, MaterialKind kind,
+                   int32_t delta) {
+  if (!profile.enabled) return;
+  const auto byte = [](int32_t value) { return static_cast<uint8_t>(std::clamp(value, 0, 255)); };
+  surface.material = kind;
+  surface.materialTint = profile.tint;
+  surface.backlightColor = profile.backlight;
+  surface.materialStrength = kind != MaterialKind::None ? byte(profile.strength + delta) : 0;
+  surface.highlightOpacity = byte(profile.highlightOpacity);
+  surface.reflectionOpacity = byte(profile.reflectionOpacity);
+  surface.grainOpacity = byte(profile.grainOpacity);
+  surface.materialDepth = byte(profile.depth);
+  surface.backlightOpacity = byte(profile.backlightOpacity);
+  surface.innerGlow = byte(profile.innerGlow);
+  surface.rimLight = byte(profile.rimLight);
+  surface.materialLightElevation = byte(profile.lightElevation);
+  surface.roughness = byte(profile.roughness);
+  surface.specular = byte(profile.specular);
+  surface.ambientOcclusion = byte(profile.ambientOcclusion);
+  surface.edgeWear = byte(profile.edgeWear);
+  surface.textureOpacity = byte(profile.textureOpacity);
+  surface.materialScale = profile.scale;
+  surface.materialAngle = profile.angle;
+  surface.materialLightAngle = profile.lightAngle;
+  surface.lightBlobScale = profile.lightBlobScale;
+  surface.lightBlobAngle = profile.lightBlobAngle;
+  surface.animationSpeed = profile.animationSpeed;
+  surface.noiseSeed = profile.noiseSeed;
+  applyFinish(surface, profile.finish);
+  surface.uvMapping = profile.uvMapping;
+  surface.uvScale = profile.uvScale;
+  surface.uvOffsetX = profile.uvOffsetX;
+  surface.uvOffsetY = profile.uvOffsetY;
+  surface.gradientKind = profile.gradientKind;
+  surface.gradientDirection = profile.gradientDirection;
+  surface.useGradient = surface.drawFill;
+}
+
+StyleSheet::StyleSheet(const Theme& theme) : theme_(theme) {
+  buildFromTheme();
+}
+
+StyleSheet::StyleSheet(const SkinDefinition& skin) : theme_(skin.theme), mode_(skin.surfaceMode) {
+  buildFromTheme();
+  applyShapes(skin.shapes);
+  applyMaterials(skin.materials);
+  const StyleContext context{&theme_, skin.sourceDirectory};
+  for (const StyleOverride& entry : skin.overrides)
+    applyOverride(entry, context);
+  applyAliases();
+}
+
+void StyleSheet::buildFromTheme() {
+  const Theme& t = theme_;
+  const SurfaceMode m = mode_;
+  text.set(L"default", buildTextStyle(t, TextTone::Default));
+  text.set(L"title", buildTextStyle(t, TextTone::Title));
+  text.set(L"muted", buildTextStyle(t, TextTone::Muted));
+  text.set(L"mono", buildTextStyle(t, TextTone::Mono));
+  text.set(L"secondary", buildTextStyle(t, TextTone::Secondary));
+  text.set(L"danger", buildTextStyle(t, TextTone::Danger));
+  buttons.set(L"default", buildButtonStyle(t, m, ButtonTone::Default));
+  buttons.set(L"secondary", buildButtonStyle(t, m, ButtonTone::Secondary));
+  buttons.set(L"primary", buildButtonStyle(t, m, ButtonTone::Primary));
+  buttons.set(L"primary-action", buildButtonStyle(t, m, ButtonTone::Primary));
+  buttons.set(L"quiet", buildButtonStyle(t, m, ButtonTone::Quiet));
+  buttons.set(L"success", buildButtonStyle(t, m, ButtonTone::Success));
+  buttons.set(L"warning", buildButtonStyle(t, m, ButtonTone::Warning));
+  buttons.set(L"danger", buildButtonStyle(t, m, ButtonTone::Danger));
+  bitmapButtons.set(L"default", buildBitmapButtonStyle(t));
+  panels.set(L"default", buildPanelStyle(t, m, PanelTone::Default));
+  panels.set(L"glass", buildPanelStyle(t, m, PanelTone::Glass));
+  panels.set(L"raised", buildPanelStyle(t, m, PanelTone::Raised));
+  panels.set(L"dashboard", buildPanelStyle(t, m, PanelTone::Dashboard));
+  cards.set(L"default", buildCardStyle(t, m, CardTone::Default));
+  cards.set(L"info", buildCardStyle(t, m, CardTone::Info));
+  cards.set(L"success", buildCardStyle(t, m, CardTone::Success));
+  cards.set(L"warning", buildCardStyle(t, m, CardTone::Warning));
+  cards.set(L"danger", buildCardStyle(t, m, CardTone::Danger));
+  chromeTitleBars.set(L"default", buildChromeTitleBarStyle(t, m));
+  statusChips.set(L"default", buildStatusChipStyle(t, m));
+  progressBars.set(L"default", buildProgressBarStyle(t, m));
+  scrollBars.set(L"default", buildScrollBarStyle(t, m));
+  checkBoxes.set(L"default", buildCheckBoxStyle(t, m));
+  selectBoxes.set(L"default", buildSelectBoxStyle(t, m));
+  listBoxes.set(L"default", buildHierarchicalListBoxStyle(t, m));
+  dateInputs.set(L"default", buildDateInputStyle(t, m));
+  tabStrips.set(L"default", buildTabStripStyle(t, m));
+  menuBars.set(L"default", buildMenuBarStyle(t, m));
+  tableLists.set(L"default", buildTableListStyle(t, m));
+  richTexts.set(L"default", buildRichTextStyle(t, m));
+  textInputs.set(L"default", buildTextInputStyle(t, m));
+  selectableTexts.set(L"default", buildSelectableTextStyle(t, m));
+  popups.set(L"default", buildPopupStyle(t, m));
+  tooltips.set(L"default", buildTooltipStyle(t, m));
+  window_ = buildWindowStyle(t, m);
+}
+
+void StyleSheet::applyShapes(const ShapeSet& set) {
+  const auto with = [&](const wchar_t* role, auto&& apply) {
+    if (const ShapeKind* kind = set.find(role)) apply(*kind);
+  };
+  with(L"window", [&](ShapeKind k) { window_.surface.shape = k; });
+  with(L"panel", [&](ShapeKind k) {
+    for (auto& [id, panel] : panels.all())
+      panel.surface.shape = k;
+  });
+  with(L"chrome", [&](ShapeKind k) {
+    for (auto& [id, chrome] : chromeTitleBars.all())
+      chrome.surface.shape = k;
+  });
+  with(L"statuschip", [&](ShapeKind k) {
+    for (auto& [id, chip] : statusChips.all())
+      chip.surface.shape = k;
+  });
+  with(L"statusbadge", [&](ShapeKind k) {
+    for (auto& [id, chip] : statusChips.all())
+      chip.badge.shape = k;
+  });
+  with(L"checkbox", [&](ShapeKind k) {
+    for (auto& [id, c] : checkBoxes.all()) {
+      for (SurfaceStyle* box :
+           {&c.boxUnchecked, &c.boxUncheckedHot, &c.boxUncheckedPressed, &c.boxUncheckedDisabled,
+            &c.boxChecked, &c.boxCheckedHot, &c.boxCheckedPressed, &c.boxCheckedDisabled}) {
+        box->shape = k;
+      }
+    }
+  });
+  for (auto& [id, s] : selectBoxes.all()) {
+    with(L"selectbox", [&](ShapeKind k) {
+      s.surface.shape = s.hotSurface.shape = s.pressedSurface.shape = s.disabledSurface.shape = k;
+    });
+    with(L"selectarrow", [&](ShapeKind k) {
+      s.arrowSurface.shape = s.arrowHotSurface.shape = s.arrowPressedSurface.shape =
+          s.arrowDisabledSurface.shape = k;
+    });
+    with(L"selectdropdown", [&](ShapeKind k) { s.dropdownSurface.shape = k; });
+  }
+  for (auto& [id, l] : listBoxes.all()) {
+    with(L"list", [&](ShapeKind k) {
+      l.surface.shape = l.row.shape = l.rowHot.shape = l.rowPressed.shape = k;
+      l.selectedRow.shape = l.selectedRowHot.shape = l.selectedRail.shape = k;
+    });
+    with(L"list.surface", [&](ShapeKind k) { l.surface.shape = k; });
+    for (const wchar_t* role : {L"list.row", L"listrow"}) {
+      with(role, [&](ShapeKind k) { l.row.shape = l.rowHot.shape = l.rowPressed.shape = k; });
+    }
+    for (const wchar_t* role : {L"list.selectedrow", L"listselectedrow"}) {
+      with(role, [&](ShapeKind k) { l.selectedRow.shape = l.selectedRowHot.shape = k; });
+    }
+    for (const wchar_t* role : {L"list.selectedrail", L"listselectedrail"}) {
+      with(role, [&](ShapeKind k) { l.selectedRail.shape = k; });
+    }
+  }
+  with(L"tab", [&](ShapeKind k) {
+    for (auto& [id, tabs] : tabStrips.all())
+      shapeStates(tabs.itemButton.surface, k);
+  });
+  for (auto& [id, menu] : menuBars.all()) {
+    with(L"menubar", [&](ShapeKind k) { menu.surface.shape = k; });
+    with(L"menuitem", [&](ShapeKind k) {
+      menu.itemSurface.shape = menu.itemHotSurface.shape = menu.itemPressedSurface.shape =
+          menu.itemActiveSurface.shape = k;
+    });
+    with(L"menupopup", [&](ShapeKind k) { menu.popupSurface.shape = k; });
+    with(L"menupopupitem", [&](ShapeKind k) {
+      menu.popupItemHotSurface.shape = menu.popupItemPressedSurface.shape = k;
+    });
+  }
+  for (auto& [id, rich] : richTexts.all()) {
+    with(L"richtext", [&](ShapeKind k) { rich.surface.shape = k; });
+    with(L"richtexticon", [&](ShapeKind k) { rich.icon.shape = k; });
+  }
+  for (auto& [id, input] : textInputs.all()) {
+    with(L"textinput", [&](ShapeKind k) {
+      input.surface.shape = input.hotSurface.shape = input.pressedSurface.shape =
+          input.disabledSurface.shape = input.focusedSurface.shape = k;
+    });
+    with(L"textinputattachment", [&](ShapeKind k) { input.attachmentSurface.shape = k; });
+  }
+  with(L"selectabletext", [&](ShapeKind k) {
+    for (auto& [id, s] : selectableTexts.all())
+      s.surface.shape = k;
+  });
+  for (auto& [id, tip] : tooltips.all()) {
+    with(L"tooltip", [&](ShapeKind k) { tip.surface.shape = k; });
+    with(L"tooltiprail", [&](ShapeKind k) { tip.accentRail.shape = k; });
+    with(L"tooltipicon", [&](ShapeKind k) { tip.icon.shape = k; });
+  }
+  for (auto& [id, button] : buttons.all()) {
+    with(L"button", [&](ShapeKind k) { shapeStates(button.surface, k); });
+    const bool primary = id == L"primary" || id == L"primaryaction" || id == L"success" ||
+                         id == L"warning" || id == L"danger";
+    with(primary ? L"button.primary" : L"button.secondary",
+         [&](ShapeKind k) { shapeStates(button.surface, k); });
+  }
+  for (auto& [id, card] : cards.all()) {
+    for (const wchar_t* role : {L"card", L"card.shape"}) {
+      with(role, [&](ShapeKind k) { card.surface.shape = card.header.shape = k; });
+    }
+    with(L"card.surface", [&](ShapeKind k) { card.surface.shape = k; });
+    for (const wchar_t* role : {L"card.header", L"card.title"}) {
+      with(role, [&](ShapeKind k) { card.header.shape = k; });
+    }
+  }
+  for (auto& [id, bar] : progressBars.all()) {
+    with(L"progress", [&](ShapeKind k) { bar.frame.shape = bar.track.shape = bar.fill.shape = k; });
+    with(L"progress.frame", [&](ShapeKind k) { bar.frame.shape = k; });
+    with(L"progress.track", [&](ShapeKind k) { bar.track.shape = k; });
+    with(L"progress.fill", [&](ShapeKind k) { bar.fill.shape = k; });
+  }
+  for (auto& [id, table] : tableLists.all()) {
+    with(L"table", [&](ShapeKind k) {
+      table.surface.shape = table.header.shape = table.row.shape = k;
+      table.selectedRow.shape = table.selectedRail.shape = k;
+    });
+    with(L"table.surface", [&](ShapeKind k) { table.surface.shape = k; });
+    with(L"table.header", [&](ShapeKind k) { table.header.shape = k; });
+    with(L"table.row", [&](ShapeKind k) { table.row.shape = k; });
+    with(L"table.selectedrow", [&](ShapeKind k) { table.selectedRow.shape = k; });
+    with(L"table.selectedrail", [&](ShapeKind k) { table.selectedRail.shape = k; });
+  }
+  for (auto& [id, popup] : popups.all()) {
+    with(L"popup", [&](ShapeKind k) { popup.surface.shape = k; });
+    with(L"popup.surface", [&](ShapeKind k) { popup.surface.shape = k; });
+    with(L"popup.header", [&](ShapeKind k) { popup.header.shape = k; });
+    with(L"popup.icon", [&](ShapeKind k) { popup.icon.shape = k; });
+  }
+  const auto scrollShapes = [&](ScrollBarStyle& bar) {
+    with(L"scroll", [&](ShapeKind k) {
+      bar.track.shape = k;
+      shapeStates(bar.thumb, k);
+      shapeStates(bar.decrementButton, k);
+      shapeStates(bar.incrementButton, k);
+    });
+    with(L"scroll.track", [&](ShapeKind k) { bar.track.shape = k; });
+    with(L"scroll.thumb", [&](ShapeKind k) { shapeStates(bar.thumb, k); });
+    with(L"scroll.button", [&](ShapeKind k) {
+      shapeStates(bar.decrementButton, k);
+      shapeStates(bar.incrementButton, k);
+    });
+    const auto metric = [](int32_t value, int32_t& field) {
+      if (value >= 0) field = value;
+    };
+    metric(set.scrollButtonExtent, bar.buttonExtent);
+    metric(set.scrollMinThumbExtent, bar.minThumbExtent);
+    metric(set.scrollTrackPadding, bar.trackPadding);
+    metric(set.scrollTrackThickness, bar.trackThickness);
+    metric(set.scrollThumbThickness, bar.thumbThickness);
+    if (set.scrollShowButtons >= 0) bar.showButtons = set.scrollShowButtons == 1;
+  };
+  for (auto& [id, bar] : scrollBars.all())
+    scrollShapes(bar);
+  for (auto& [id, select] : selectBoxes.all())
+    scrollShapes(select.scrollBar);
+  for (auto& [id, list] : listBoxes.all())
+    scrollShapes(list.scrollBar);
+}
+
+void StyleSheet::applyMaterials(const MaterialProfile& p) {
+  if (!p.enabled) return;
+  // A glass panel over paper would look like paper; it frosts instead.
+  const MaterialKind glass =
+      p.surface == MaterialKind::Paper ? MaterialKind::FrostedGlass : MaterialKind::Glass;
+  for (auto& [id, panel] : panels.all())
+    applyMaterial(panel.surface, p, id == L"glass" ? glass : p.surface, id == L"glass" ? 4 : -8);
+  for (auto& [id, button] : buttons.all()) {
+    const bool accent = id == L"primary" || id == L"primaryaction" || id == L"success" ||
+                        id == L"warning" || id == L"danger";
+    if (accent) {
+      materialStates(button.surface, p, p.accent, kAccentDeltas);
+    } else {
+      materialStates(button.surface, p, p.control, id == L"quiet" ? kQuietDeltas : kControlDeltas);
+    }
+  }
+  for (auto& [id, card] : cards.all()) {
+    applyMaterial(card.surface, p, p.surface, -6);
+    applyMaterial(card.header, p, p.surface, -2);
+  }
+  for (auto& [id, chrome] : chromeTitleBars.all()) {
+    applyMaterial(chrome.surface, p, p.surface, -4);
+    materialStates(chrome.titleButton.surface, p, p.control, kQuietDeltas);
+  }
+  for (auto& [id, chip] : statusChips.all()) {
+    applyMaterial(chip.surface, p, p.control, -10);
+    applyMaterial(chip.badge, p, p.accent, 8);
+  }
+  for (auto& [id, bar] : progressBars.all()) {
+    applyMaterial(bar.frame, p, p.surface, -10);
+    applyMaterial(bar.track, p, p.control, -16);
+    applyMaterial(bar.fill, p, p.accent, 8);
+  }
+  for (auto& [id, bar] : scrollBars.all())
+    materialScrollBar(bar, p);
+  for (auto& [id, c] : checkBoxes.all()) {
+    applyMaterial(c.boxUnchecked, p, p.control, -16);
+    applyMaterial(c.boxUncheckedHot, p, p.control, -8);
+    applyMaterial(c.boxUncheckedPressed, p, p.control, -22);
+    applyMaterial(c.boxUncheckedDisabled, p, p.control, -28);
+    applyMaterial(c.boxChecked, p, p.accent, 8);
+    applyMaterial(c.boxCheckedHot, p, p.accent, 16);
+    applyMaterial(c.boxCheckedPressed, p, p.accent, 2);
+    applyMaterial(c.boxCheckedDisabled, p, p.accent, -18);
+  }
+  for (auto& [id, s] : selectBoxes.all()) {
+    applyMaterial(s.surface, p, p.control, -12);
+    applyMaterial(s.hotSurface, p, p.control, -4);
+    applyMaterial(s.pressedSurface, p, p.control, -18);
+    applyMaterial(s.disabledSurface, p, p.control, -26);
+    applyMaterial(s.dropdownSurface, p, p.surface, -6);
+    materialScrollBar(s.scrollBar, p);
+  }
+  for (auto& [id, l] : listBoxes.all()) {
+    applyMaterial(l.surface, p, p.surface, -12);
+    applyMaterial(l.selectedRow, p, p.accent, -10);
+    applyMaterial(l.selectedRowHot, p, p.accent, -4);
+    materialScrollBar(l.scrollBar, p);
+  }
+  for (auto& [id, d] : dateInputs.all()) {
+    applyMaterial(d.surface, p, p.control, -12);
+    applyMaterial(d.hotSurface, p, p.control, -4);
+    applyMaterial(d.pressedSurface, p, p.control, -18);
+    applyMaterial(d.popupSurface, p, p.surface, -6);
+  }
+  for (auto& [id, tabs] : tabStrips.all())
+    materialStates(tabs.itemButton.surface, p, p.control, kQuietDeltas);
+  for (auto& [id, menu] : menuBars.all()) {
+    applyMaterial(menu.surface, p, p.surface, -8);
+    applyMaterial(menu.popupSurface, p, p.surface, -6);
+  }
+  for (auto& [id, table] : tableLists.all()) {
+    applyMaterial(table.surface, p, p.surface, -12);
+    applyMaterial(table.header, p, p.surface, -4);
+    applyMaterial(table.selectedRow, p, p.accent, -10);
+  }
+  for (auto& [id, rich] : richTexts.all())
+    applyMaterial(rich.surface, p, p.surface, -10);
+  for (auto& [id, input] : textInputs.all()) {
+    applyMaterial(input.surface, p, p.control, -14);
+    applyMaterial(input.hotSurface, p, p.control, -6);
+    applyMaterial(input.focusedSurface, p, p.control, -4);
+  }
+  for (auto& [id, s] : selectableTexts.all())
+    applyMaterial(s.surface, p, p.surface, -14);
+  for (auto& [id, popup] : popups.all()) {
+    applyMaterial(popup.surface, p, p.surface, -6);
+    applyMaterial(popup.header, p, p.surface, -2);
+    materialStates(popup.primaryAction.surface, p, p.accent, kAccentDeltas);
+    materialStates(popup.secondaryAction.surface, p, p.control, kControlDeltas);
+    materialStates(popup.closeButton.surface, p, p.control, kQuietDeltas);
+  }
+  for (auto& [id, tip] : tooltips.all())
+    applyMaterial(tip.surface, p, p.surface, -8);
+  applyMaterial(window_.surface, p, p.surface, -14);
+}
+
+void StyleSheet::applyOverride(const StyleOverride& entry, const StyleContext& context) {
+  const std::wstring& type = entry.type;
+  const Theme& t = theme_;
+  const SurfaceMode m = mode_;
+  if (typeIs(type, {L"window", L"windowstyle"})) {
+    // A window reads only its "default" override; other ids have nothing to style.
+    if (entry.id == L"default") {
+      parseWindowStyle(StyleReader(entry.properties, L"", context), window_);
+    }
+  } else if (typeIs(type, {L"text", L"textstyle"})) {
+    overrideIn(
+        text, entry, context, [&] { return buildTextStyle(t, TextTone::Default); }, parseTextStyle);
+  } else if (typeIs(type, {L"button", L"buttons", L"buttonstyle"})) {
+    overrideIn(
+        buttons, entry, context, [&] { return buildButtonStyle(t, m, ButtonTone::Default); },
+        parseButtonStyle);
+  } else if (typeIs(type, {L"bitmapbutton", L"bitmapbuttons", L"bitmap", L"imagebutton",
+                           L"glyphbutton"})) {
+    overrideIn(
+        bitmapButtons, entry, context, [&] { return buildBitmapButtonStyle(t); },
+        parseBitmapButtonStyle);
+  } else if (typeIs(type, {L"panel", L"panelstyle"})) {
+    overrideIn(
+        panels, entry, context, [&] { return buildPanelStyle(t, m, PanelTone::Default); },
+        parsePanelStyle);
+  } else if (typeIs(type, {L"card", L"cardstyle"})) {
+    overrideIn(
+        cards, entry, context, [&] { return buildCardStyle(t, m, CardTone::Default); },
+        parseCardStyle);
+  } else if (typeIs(type, {L"chrometitlebar", L"titlebar", L"chrome"})) {
+    overrideIn(
+        chromeTitleBars, entry, context, [&] { return buildChromeTitleBarStyle(t, m); },
+        parseChromeTitleBarStyle);
+  } else if (typeIs(type, {L"statuschip", L"status"})) {
+    overrideIn(
+        statusChips, entry, context, [&] { return buildStatusChipStyle(t, m); },
+        parseStatusChipStyle);
+  } else if (typeIs(type, {L"progressbar", L"progress"})) {
+    overrideIn(
+        progressBars, entry, context, [&] { return buildProgressBarStyle(t, m); },
+        parseProgressBarStyle);
+  } else if (typeIs(type, {L"scrollbar", L"scroll"})) {
+    overrideIn(
+        scrollBars, entry, context, [&] { return buildScrollBarStyle(t, m); }, parseScrollBarStyle);
+  } else if (typeIs(type, {L"checkbox", L"check"})) {
+    overrideIn(
+        checkBoxes, entry, context, [&] { return buildCheckBoxStyle(t, m); }, parseCheckBoxStyle);
+  } else if (typeIs(type, {L"selectbox", L"select", L"combobox", L"combo"})) {
+    overrideIn(
+        selectBoxes, entry, context, [&] { return buildSelectBoxStyle(t, m); },
+        parseSelectBoxStyle);
+  } else if (typeIs(type, {L"listbox", L"hierarchicallistbox", L"treelistbox", L"treelist",
+                           L"diskviewer", L"fileviewer", L"filelist", L"selectionlist"})) {
+    overrideIn(
+        listBoxes, entry, context, [&] { return buildHierarchicalListBoxStyle(t, m); },
+        parseHierarchicalListBoxStyle);
+  } else if (typeIs(type, {L"dateinput", L"date", L"calendarinput"})) {
+    overrideIn(
+        dateInputs, entry, context, [&] { return buildDateInputStyle(t, m); }, parseDateInputStyle);
+  } else if (typeIs(type, {L"tabstrip", L"tabs", L"tab"})) {
+    overrideIn(
+        tabStrips, entry, context, [&] { return buildTabStripStyle(t, m); }, parseTabStripStyle);
+  } else if (typeIs(type, {L"menubar", L"menu", L"windowmenu", L"windowsmenu"})) {
+    overrideIn(
+        menuBars, entry, context, [&] { return buildMenuBarStyle(t, m); }, parseMenuBarStyle);
+  } else if (typeIs(type, {L"tablelist", L"table", L"list"})) {
+    overrideIn(
+        tableLists, entry, context, [&] { return buildTableListStyle(t, m); }, parseTableListStyle);
+  } else if (typeIs(type, {L"richtext", L"helptext"})) {
+    overrideIn(
+        richTexts, entry, context, [&] { return buildRichTextStyle(t, m); }, parseRichTextStyle);
+  } else if (typeIs(type, {L"textinput", L"input", L"edit"})) {
+    overrideIn(
+        textInputs, entry, context, [&] { return buildTextInputStyle(t, m); }, parseTextInputStyle);
+  } else if (typeIs(type, {L"selectabletext"})) {
+    overrideIn(
+        selectableTexts, entry, context, [&] { return buildSelectableTextStyle(t, m); },
+        parseSelectableTextStyle);
+  } else if (typeIs(type, {L"popup", L"dialog"})) {
+    overrideIn(
+        popups, entry, context, [&] { return buildPopupStyle(t, m); }, parsePopupStyle);
+  } else if (typeIs(type, {L"tooltip", L"tooltips"})) {
+    overrideIn(
+        tooltips, entry, context, [&] { return buildTooltipStyle(t, m); }, parseTooltipStyle);
+  }
+}
+
+void StyleSheet::applyAliases() {
+  const auto alias = [&](const wchar_t* name, std::initializer_list<const wchar_t*> sources) {
+    if (buttons.contains(name)) return;  // a skin's own style of that id stands
+    for (const wchar_t* source : sources) {
+      if (const ButtonStyle* style = buttons.find(source)) {
+        buttons.set(name, *style);
+        return;
+      }
+    }
+  };
+  alias(L"success-action", {L"success"});
+  alias(L"warning-action", {L"warning"});
+  alias(L"danger-action", {L"danger"});
+  alias(L"action", {L"primary-action", L"primary"});
+  alias(L"designed-help", {L"quiet", L"secondary"});
+}
+
+}  // namespace tessel

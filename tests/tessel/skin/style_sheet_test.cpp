@@ -1,0 +1,141 @@
+#include "tessel/skin/style_sheet.h"
+
+#include <gtest/gtest.h>
+
+namespace tessel {
+namespace {
+
+SkinDefinition Skin(const std::wstring& members) {
+  JsonValue value;
+  EXPECT_TRUE(parseJsonText(L"{\"id\":\"s\",\"name\":\"S\"" + members + L"}", value));
+  SkinDefinition skin;
+  EXPECT_TRUE(parseSkinDefinition(value, skin));
+  return skin;
+}
+
+TEST(StyleSheet, BaseSeesOnlyStylesThatSortEarlier) {
+  const StyleSheet seen(
+      Skin(L",\"styles\":{\"button\":{\"b\":{\"base\":\"a\"},\"a\":{\"surface\":{\"fill\":\"#"
+           L"123456\"}}}}"));
+  EXPECT_EQ(seen.buttons.get(L"b").surface.normal.fill, rgbColor(0x12, 0x34, 0x56));
+
+  const StyleSheet unseen(
+      Skin(L",\"styles\":{\"button\":{\"a\":{\"base\":\"b\"},\"b\":{\"surface\":{\"fill\":\"#"
+           L"123456\"}}}}"));
+  EXPECT_NE(unseen.buttons.get(L"a").surface.normal.fill, rgbColor(0x12, 0x34, 0x56));
+  EXPECT_EQ(unseen.buttons.get(L"a").surface.normal.fill,
+            unseen.buttons.get(L"default").surface.normal.fill);  // the theme's default
+}
+
+TEST(StyleSheet, VariantWithAShapeKeepsEverythingElseOfItsBase) {
+  const StyleSheet sheet(
+      Skin(L",\"styles\":{\"button\":{\"primary\":{\"surface\":{\"fill\":\"#0A0B0C\"}}}},"
+           L"\"variants\":{\"button\":{\"stayhold-primary\":{\"base\":\"primary\",\"shape\":"
+           L"\"capsule\"}}}"));
+  const ButtonStyle& variant = sheet.buttons.get(L"stayhold-primary");
+  const ButtonStyle& primary = sheet.buttons.get(L"primary");
+  EXPECT_EQ(variant.surface.hot.shape, ShapeKind::Capsule);
+  EXPECT_EQ(variant.surface.normal.fill, rgbColor(0x0A, 0x0B, 0x0C));
+  EXPECT_EQ(variant.surface.hot.fill, primary.surface.hot.fill);
+  EXPECT_EQ(variant.text, primary.text);
+  EXPECT_NE(primary.surface.hot.shape, ShapeKind::Capsule);
+}
+
+TEST(StyleSheet, VariantsBeatStylesWhichBeatMaterialWhichBeatsShapes) {
+  const StyleSheet sheet(
+      Skin(L",\"materials\":{\"surface\":\"glass\",\"strength\":100},"
+           L"\"shapes\":{\"panel\":\"octagon\"},"
+           L"\"styles\":{\"panel\":{\"default\":{\"shape\":\"hexagon\",\"surface\":{"
+           L"\"materialStrength\":5,"
+           L"\"fill\":\"#010101\"}}}},"
+           L"\"variants\":{\"panel\":{\"default\":{\"surface\":{\"fill\":\"#020202\"}}}}"));
+  const PanelStyle& panel = sheet.panels.get(L"default");
+  EXPECT_EQ(panel.surface.shape, ShapeKind::Hexagon);
+  EXPECT_EQ(panel.surface.materialStrength, 5);
+  EXPECT_EQ(panel.surface.fill, rgbColor(2, 2, 2));
+  EXPECT_EQ(sheet.panels.get(L"raised").surface.shape, ShapeKind::Octagon);
+  EXPECT_EQ(sheet.panels.get(L"raised").surface.material, MaterialKind::Glass);
+  EXPECT_EQ(sheet.panels.get(L"raised").surface.materialStrength, 92);  // 100 - 8
+}
+
+TEST(StyleSheet, MaterialDeltasByRoleAndState) {
+  const StyleSheet sheet(
+      Skin(L",\"materials\":{\"surface\":\"paper\",\"accent\":\"gloss\",\"strength\":120}"));
+  const ButtonStyle& button = sheet.buttons.get(L"default");
+  EXPECT_EQ(button.surface.normal.material, MaterialKind::Paper);
+  EXPECT_EQ(button.surface.normal.materialStrength, 110);
+  EXPECT_EQ(button.surface.hot.materialStrength, 118);
+  EXPECT_EQ(button.surface.pressed.materialStrength, 104);
+  EXPECT_EQ(button.surface.active.materialStrength, 120);
+  const ButtonStyle& primary = sheet.buttons.get(L"primary");
+  EXPECT_EQ(primary.surface.normal.material, MaterialKind::Gloss);
+  EXPECT_EQ(primary.surface.hot.materialStrength, 136);
+  EXPECT_EQ(sheet.panels.get(L"glass").surface.material, MaterialKind::FrostedGlass);
+  EXPECT_EQ(sheet.panels.get(L"glass").surface.materialStrength, 124);
+  EXPECT_EQ(sheet.checkBoxes.get(L"default").boxUnchecked.materialStrength, 104);
+  EXPECT_EQ(sheet.scrollBars.get(L"default").thumb.pressed.materialStrength, 106);
+  // Without a profile nothing changes.
+  EXPECT_EQ(StyleSheet(Skin(L"")).buttons.get(L"default").surface.normal.material,
+            MaterialKind::None);
+}
+
+TEST(StyleSheet, ShapeRolesReachTheirRecords) {
+  const StyleSheet sheet(Skin(
+      L",\"shapes\":{\"button\":{\"primary\":\"pill\"},\"table\":{\"header\":\"bevel\"},"
+      L"\"scrollbar\":{\"thumb\":\"capsule\",\"thumbThickness\":7},\"checkbox\":\"diamond\"}"));
+  EXPECT_EQ(sheet.buttons.get(L"primary").surface.pressed.shape, ShapeKind::Capsule);
+  EXPECT_EQ(sheet.buttons.get(L"danger").surface.pressed.shape, ShapeKind::Capsule);
+  EXPECT_NE(sheet.buttons.get(L"default").surface.pressed.shape, ShapeKind::Capsule);
+  EXPECT_EQ(sheet.tableLists.get(L"default").header.shape, ShapeKind::Bevel);
+  EXPECT_NE(sheet.tableLists.get(L"default").row.shape, ShapeKind::Bevel);
+  EXPECT_EQ(sheet.scrollBars.get(L"default").thumbThickness, 7);
+  EXPECT_EQ(sheet.selectBoxes.get(L"default").scrollBar.thumbThickness, 7);
+  EXPECT_EQ(sheet.checkBoxes.get(L"default").boxCheckedHot.shape, ShapeKind::Diamond);
+}
+
+TEST(StyleSheet, WindowOverridesOnlyWithTheDefaultId) {
+  const StyleSheet primary(
+      Skin(L",\"styles\":{\"window\":{\"primary\":{\"resizeBorderThickness\":20}}}"));
+  EXPECT_EQ(primary.window().resizeBorderThickness, WindowStyle().resizeBorderThickness);
+  const StyleSheet byDefault(
+      Skin(L",\"styles\":{\"windowstyle\":{\"default\":{\"resizeBorderThickness\":20,\"surface\":"
+           L"{\"fill\":\"#332211\"}}}}"));
+  EXPECT_EQ(byDefault.window().resizeBorderThickness, 20);
+  EXPECT_EQ(byDefault.window().surface.fill, rgbColor(0x33, 0x22, 0x11));
+}
+
+TEST(StyleSheet, TypeSpellingsAndUnknownTypes) {
+  const StyleSheet sheet(
+      Skin(L",\"styles\":{\"tree_list\":{\"x\":{\"rowHeight\":40}},\"combo\":{\"x\":{"
+           L"\"itemHeight\":33}},"
+           L"\"list\":{\"x\":{\"rowHeight\":41}},\"Text-Style\":{\"x\":{\"weight\":\"bold\"}},"
+           L"\"gizmo\":{\"x\":{\"a\":1}}}"));
+  EXPECT_EQ(sheet.listBoxes.get(L"x").rowHeight, 40);
+  EXPECT_EQ(sheet.selectBoxes.get(L"x").itemHeight, 33);
+  EXPECT_EQ(sheet.tableLists.get(L"x").rowHeight, 41);
+  EXPECT_EQ(sheet.text.get(L"x").weight, 700);
+  EXPECT_FALSE(sheet.tooltips.contains(L"x"));
+}
+
+TEST(StyleSheet, AliasesCopyTheActionColoursWhenAbsent) {
+  const StyleSheet sheet(
+      Skin(L",\"styles\":{\"button\":{\"warning-action\":{\"surface\":{\"fill\":\"#010203\"}},"
+           L"\"success\":{\"surface\":{\"fill\":\"#040506\"}}}}"));
+  EXPECT_EQ(sheet.buttons.get(L"success-action").surface.normal.fill, rgbColor(4, 5, 6));
+  EXPECT_EQ(sheet.buttons.get(L"warning-action").surface.normal.fill, rgbColor(1, 2, 3));
+  EXPECT_TRUE(sheet.buttons.contains(L"danger-action"));
+  EXPECT_TRUE(sheet.buttons.contains(L"action"));
+  EXPECT_TRUE(sheet.buttons.contains(L"designed-help"));
+}
+
+TEST(StyleSheet, UnknownIdsFallToDefaultAndIdsIgnoreSpelling) {
+  const StyleSheet sheet{Theme()};
+  EXPECT_EQ(&sheet.cards.get(L"nope"), &sheet.cards.get(L"default"));
+  EXPECT_EQ(&sheet.buttons.get(L"Primary_Action"), &sheet.buttons.get(L"primary-action"));
+  EXPECT_TRUE(sheet.text.contains(L"title"));
+  EXPECT_TRUE(sheet.panels.contains(L"dashboard"));
+  EXPECT_TRUE(sheet.cards.contains(L"warning"));
+}
+
+}  // namespace
+}  // namespace tessel
