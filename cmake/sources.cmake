@@ -30,13 +30,20 @@ set(STAYHOLD_PORTABLE_SOURCES
   update/version_compare.cpp
   ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp
   # toolkit
+  tessel/core/control.cpp
+  tessel/core/panel.cpp
   tessel/paint/alpha_bands.cpp
+  tessel/paint/bitmap_surface.cpp
+  tessel/paint/chrome_glyphs.cpp
   tessel/paint/color.cpp
   tessel/paint/image.cpp
+  tessel/paint/image_file_common.cpp
+  tessel/paint/image_canvas.cpp
   tessel/paint/material_kind.cpp
   tessel/paint/shape_fill.cpp
   tessel/paint/shape_geometry.cpp
   tessel/paint/shape_kind.cpp
+  tessel/paint/stand_in_font.cpp
   tessel/paint/surface_outline.cpp
   tessel/paint/gradient_words.cpp
   tessel/skin/app_skin_catalogue.cpp
@@ -53,6 +60,14 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/skin/surface_builder.cpp
   tessel/skin/surface_parser.cpp
   tessel/skin/theme.cpp
+)
+
+# The portable library's one platform seam, image decoding: one of these joins it per build.
+set(STAYHOLD_PORTABLE_NATIVE_SOURCES
+  tessel/paint/image_file.cpp
+)
+set(STAYHOLD_PORTABLE_WIN32_SOURCES
+  tessel/paint/image_file_win32.cpp
 )
 
 # The thin Windows layer beside them.

@@ -1,6 +1,7 @@
 #include "tessel/paint/color.h"
 
 #include <cmath>
+#include <initializer_list>
 
 namespace tessel {
 
@@ -42,13 +43,22 @@ double contrastRatio(Color a, Color b) {
 
 Color readableFill(Color fill, Color text, double minimum) {
   if (contrastRatio(fill, text) >= minimum) return fill;
-  // Light text wants a darker fill and dark text a lighter one.
-  const Color target = luminance(text) > 0.18 ? rgbColor(0, 0, 0) : rgbColor(255, 255, 255);
-  for (int step = 1; step <= 20; ++step) {
-    const Color candidate = mixColor(fill, target, step / 20.0);
-    if (contrastRatio(candidate, text) >= minimum) return candidate;
+  // Away from the text first: a fill lighter than its text gets lighter still, a darker one
+  // darker, so pushing for one text doesn't work against another on the same side. When that
+  // side can't get there (fill and text of about the same lightness), the other side is tried.
+  const Color white = rgbColor(255, 255, 255);
+  const Color black = rgbColor(0, 0, 0);
+  const bool lighter = luminance(fill) >= luminance(text);
+  const Color first = lighter ? white : black;
+  const Color second = lighter ? black : white;
+  for (const Color target : {first, second}) {
+    if (contrastRatio(target, text) < minimum) continue;
+    for (int step = 1; step <= 20; ++step) {
+      const Color candidate = mixColor(fill, target, step / 20.0);
+      if (contrastRatio(candidate, text) >= minimum) return candidate;
+    }
   }
-  return target;
+  return contrastRatio(white, text) >= contrastRatio(black, text) ? white : black;
 }
 
 }  // namespace tessel

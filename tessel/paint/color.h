@@ -27,8 +27,9 @@ Color mixColor(Color a, Color b, double t);
 // The contrast ratio of two colours by relative luminance, 1 to 21.
 double contrastRatio(Color a, Color b);
 
-// `fill`, or the nearest step of it toward black or white (away from `text`) at which `text`
-// reaches `minimum` contrast, so that derived surfaces keep their text readable.
+// `fill`, or the nearest step of it away from `text` (toward white when the fill is the lighter
+// of the two, else toward black) at which `text` reaches `minimum` contrast, so that derived
+// surfaces keep their text readable.
 Color readableFill(Color fill, Color text, double minimum = 4.6);
 
 }  // namespace tessel

@@ -83,7 +83,7 @@ StateColors stateColors(const Theme& theme, ButtonTone tone) {
       return {theme.panel, theme.controlHot, theme.controlPressed, theme.controlHot,
               theme.panel, theme.border,     theme.mutedText};
     case ButtonTone::Success: {
-      const Color green = rgbColor(0x2E, 0x8B, 0x57);
+      const Color green = rgbColor(0x23, 0x7A, 0x4B);
       return {green,
               mixColor(green, theme.textHot, 0.15),
               mixColor(green, theme.shell, 0.2),
@@ -418,6 +418,7 @@ TabStripStyle buildTabStripStyle(const Theme& theme, SurfaceMode mode) {
   style.itemButton.surface.active =
       plate(theme, mode, mixColor(theme.controlHot, theme.accent, 0.25), theme.accentHot,
             kButtonSeed, ShapeKind::RoundedRect);
+  keepReadable(style.itemButton.surface.active, style.itemButton.text.color);
   return style;
 }
 

@@ -5,6 +5,7 @@
 
 #include "guard/wide_text.h"
 #include "tessel/paint/gradient_words.h"
+#include "tessel/paint/image_file.h"
 #include "tessel/skin/material_preset.h"
 
 namespace tessel {
@@ -173,6 +174,28 @@ void readNineSlice(const StyleReader& reader, SurfaceStyle& surface) {
     }
   }
   if (any) surface.useNineSlice = true;
+}
+
+// The surface's image and its layout mask, from files beside the skin; the first key present
+// names the file. A file that doesn't load leaves the surface as it was, silently.
+void readImages(const StyleReader& reader, SurfaceStyle& surface) {
+  const std::wstring& folder = reader.context().sourceDirectory;
+  Image image;
+  if (const std::wstring* path = firstPresent(
+          reader, {L"image", L"bitmap", L"skin", L"source", L"path", L"skin.path", L"image.path"});
+      path != nullptr && loadImageFile(resolveSkinPath(folder, *path), image)) {
+    surface.image = image;
+    surface.useSkinAlphaHitTest = true;
+    if (surface.geometryMode == GeometryMode::FallbackShape)
+      surface.geometryMode = GeometryMode::SkinAlphaLayout;
+  }
+  Image mask;
+  if (const std::wstring* path =
+          firstPresent(reader, {L"mask", L"alphaMask", L"layoutMask", L"mask.path"});
+      path != nullptr && loadImageFile(resolveSkinPath(folder, *path), mask)) {
+    surface.mask = mask;
+    surface.geometryMode = GeometryMode::MaskAlphaLayout;
+  }
 }
 
 // Mode and role insets; read on the surface and again inside `geometry`, which wins.
@@ -385,6 +408,7 @@ void parseSurfaceStyle(const StyleReader& reader, SurfaceStyle& surface) {
   }
   readSwitches(reader, surface);
   readNineSlice(reader, surface);
+  readImages(reader, surface);
   parseBitmapTint(reader, surface.tint);
   for (const wchar_t* level : {L"image", L"bitmap", L"skin"})
     parseBitmapTint(reader.at(level), surface.tint);

@@ -1,16 +1,19 @@
 // Draws one row per skin: its palette as swatches, then its main surfaces with text samples in
 // their own colours (window, panel, card, buttons in four states, primary button, status chip,
 // input). Surfaces are painted flat with their gradient and border only; the full painter with
-// materials draws the skin galleries. Usage: skin_contact_sheet OUTPUT.png [SKINS_FOLDER]
+// materials draws the skin galleries.
+// Usage: skin_contact_sheet OUTPUT.png [SKINS_FOLDER [FIRST COUNT]]
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "guard/wide_text.h"
 #include "tessel/paint/shape_fill.h"
 #include "tessel/paint/shape_geometry.h"
+#include "tessel/paint/stand_in_font.h"
 #include "tessel/skin/skin_catalogue.h"
 #include "tessel/skin/style_sheet.h"
-#include "tests/support/bitmap_font.h"
 #include "tests/support/png_writer.h"
 #include "tests/support/source_files.h"
 
@@ -133,12 +136,17 @@ void DrawSkin(Image& image, int top, const SkinDefinition& skin) {
 
 int main(int argc, char** argv) {
   if (argc < 2 || std::string(argv[1]) == "--help") {
-    std::printf("usage: skin_contact_sheet OUTPUT.png [SKINS_FOLDER]\n");
+    std::printf("usage: skin_contact_sheet OUTPUT.png [SKINS_FOLDER [FIRST COUNT]]\n");
     return argc < 2 ? 2 : 0;
   }
   const std::filesystem::path folder =
       argc > 2 ? std::filesystem::path(argv[2]) : SourceFile("skins");
-  const std::vector<SkinDefinition> skins = loadSkinFolder(folder.wstring());
+  std::vector<SkinDefinition> skins = loadSkinFolder(folder.wstring());
+  if (argc > 4) {
+    const size_t first = std::min(skins.size(), static_cast<size_t>(std::atoi(argv[3])));
+    const size_t count = std::min(skins.size() - first, static_cast<size_t>(std::atoi(argv[4])));
+    skins = std::vector<SkinDefinition>(skins.begin() + first, skins.begin() + first + count);
+  }
   if (skins.empty()) {
     std::fprintf(stderr, "no skins in %s\n", folder.string().c_str());
     return 1;

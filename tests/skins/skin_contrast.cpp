@@ -143,6 +143,8 @@ std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
     check.text(L"menu " + id + L" hot item", menu.itemText.color, menu.popupItemHotSurface, kBody,
                &menu.popupSurface);
   }
+  for (const auto& [id, tabs] : sheet.tabStrips.all())
+    Button(check, L"tab " + id, tabs.itemButton);
   for (const auto& [id, date] : sheet.dateInputs.all())
     check.text(L"date input " + id, date.text.color, date.surface, kBody);
   return check.problems_;
@@ -158,9 +160,9 @@ std::vector<std::wstring> FindIndistinctButtonStates(const StyleSheet& sheet) {
       for (int j = i + 1; j < 4; ++j) {
         const SurfaceStyle& a = *states[i];
         const SurfaceStyle& b = *states[j];
+        // Colours only: a material's strength alone is too subtle to tell states apart.
         const bool same = a.fill == b.fill && a.border == b.border &&
-                          a.gradientEnd == b.gradientEnd && a.drawFill == b.drawFill &&
-                          a.materialStrength == b.materialStrength;
+                          a.gradientEnd == b.gradientEnd && a.drawFill == b.drawFill;
         if (same) distinct = false;
       }
     }

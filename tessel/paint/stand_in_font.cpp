@@ -1,7 +1,9 @@
-#include "tests/support/bitmap_font.h"
+#include "tessel/paint/stand_in_font.h"
 
 #include <cctype>
 #include <cstdint>
+
+namespace tessel {
 
 namespace {
 
@@ -52,8 +54,7 @@ int BitmapTextWidth(const std::string& text, int scale) {
   return text.empty() ? 0 : static_cast<int>(text.size()) * 6 * scale - scale;
 }
 
-void DrawBitmapText(tessel::Image& image, int x, int y, const std::string& text,
-                    tessel::Color color, int scale) {
+void DrawBitmapText(Image& image, int x, int y, const std::string& text, Color color, int scale) {
   if (image.empty()) return;
   for (size_t i = 0; i < text.size(); ++i) {
     const Glyph* glyph = Find(text[i]);
@@ -68,9 +69,9 @@ void DrawBitmapText(tessel::Image& image, int x, int y, const std::string& text,
             const int py = y + row * scale + dy;
             if (px < 0 || py < 0 || px >= image.width || py >= image.height) continue;
             uint8_t* pixel = image.pixel(px, py);
-            pixel[0] = static_cast<uint8_t>(tessel::blueOf(color));
-            pixel[1] = static_cast<uint8_t>(tessel::greenOf(color));
-            pixel[2] = static_cast<uint8_t>(tessel::redOf(color));
+            pixel[0] = static_cast<uint8_t>(blueOf(color));
+            pixel[1] = static_cast<uint8_t>(greenOf(color));
+            pixel[2] = static_cast<uint8_t>(redOf(color));
             pixel[3] = 255;
           }
         }
@@ -78,3 +79,13 @@ void DrawBitmapText(tessel::Image& image, int x, int y, const std::string& text,
     }
   }
 }
+
+std::string StandInText(const std::wstring& text) {
+  std::string narrow;
+  narrow.reserve(text.size());
+  for (const wchar_t c : text)
+    narrow += (c > 0 && c < 128) ? static_cast<char>(c) : ' ';
+  return narrow;
+}
+
+}  // namespace tessel

@@ -1,0 +1,69 @@
+// What painting needs of a drawing target, and nothing more: a clip stack, solid fills, blending
+// of premultiplied images with a constant alpha (source-over, as AlphaBlend does), reading and
+// writing raw pixels, and text with its measurement. The Windows build puts a device context
+// behind it; the native build paints into a memory image, so whole control trees can be
+// painted and compared in tests.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "tessel/core/geometry.h"
+#include "tessel/paint/color.h"
+#include "tessel/paint/image.h"
+#include "tessel/skin/text_style.h"
+
+namespace tessel {
+
+// Horizontal and vertical placement of text in its rectangle.
+enum TextFlags : uint32_t {
+  kTextLeft = 0,
+  kTextCenter = 1,
+  kTextRight = 2,
+  kTextTop = 0,
+  kTextMiddle = 4,
+  kTextBottom = 8,
+};
+
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  virtual Size size() const = 0;
+
+  virtual void save() = 0;
+  virtual void restore() = 0;
+  // Intersects the clip with the union of `rects`; an empty list clips everything away.
+  virtual void clipToRects(const std::vector<Rect>& rects) = 0;
+  // Bounding box of the clip; empty when nothing can be painted.
+  virtual Rect clipBox() const = 0;
+
+  virtual void fillRect(const Rect& rect, Color color) = 0;
+  // Stretches `source` part of a premultiplied image onto `target`, source-over, with the
+  // constant alpha `opacity`.
+  virtual void blendImage(const Image& image, const Rect& source, const Rect& target,
+                          uint8_t opacity) = 0;
+  // The target's pixels under `rect` (outside the target: transparent).
+  virtual Image copyPixels(const Rect& rect) const = 0;
+  // Writes pixels as they are, without blending, with `source`'s top-left at `target`.
+  virtual void putPixels(const Image& image, const Rect& source, Point target) = 0;
+
+  virtual Size measureText(const std::wstring& text, const TextStyle& style) const = 0;
+  virtual void drawText(const std::wstring& text, const Rect& rect, const TextStyle& style,
+                        Color color, uint32_t flags) = 0;
+};
+
+// RAII pairing of save and restore.
+class CanvasState {
+ public:
+  explicit CanvasState(Canvas& canvas) : canvas_(canvas) { canvas_.save(); }
+  ~CanvasState() { canvas_.restore(); }
+  CanvasState(const CanvasState&) = delete;
+  CanvasState& operator=(const CanvasState&) = delete;
+
+ private:
+  Canvas& canvas_;
+};
+
+}  // namespace tessel
