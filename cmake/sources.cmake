@@ -39,12 +39,21 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/image.cpp
   tessel/paint/image_file_common.cpp
   tessel/paint/image_canvas.cpp
+  tessel/paint/layer_cache.cpp
   tessel/paint/material_kind.cpp
+  tessel/paint/material_layers.cpp
+  tessel/paint/material_layers_avx2.cpp
+  tessel/paint/material_noise.cpp
+  tessel/paint/material_shading.cpp
+  tessel/paint/sample_space.cpp
   tessel/paint/shape_fill.cpp
   tessel/paint/shape_geometry.cpp
   tessel/paint/shape_kind.cpp
   tessel/paint/stand_in_font.cpp
   tessel/paint/surface_outline.cpp
+  tessel/paint/surface_painter.cpp
+  tessel/paint/ui_performance.cpp
+  tessel/paint/gradient.cpp
   tessel/paint/gradient_words.cpp
   tessel/skin/app_skin_catalogue.cpp
   tessel/skin/control_style_parsers.cpp
@@ -72,6 +81,7 @@ set(STAYHOLD_PORTABLE_WIN32_SOURCES
 
 # The thin Windows layer beside them.
 set(STAYHOLD_WIN32_SOURCES
+  tessel/paint/gdi_canvas_win32.cpp
   guard/app_icon_win32.cpp
   guard/file_system_win32.cpp
   guard/hidden_window_win32.cpp
@@ -92,3 +102,15 @@ set(STAYHOLD_WIN32_SOURCES
   update/update_commands_win32.cpp
   update/update_fetch_win32.cpp
 )
+
+# The material layers' per-pixel loops are written to be vectorized: without errno and trap
+# semantics the compiler can run sqrt and the selects of several pixels at once.
+set_source_files_properties(tessel/paint/material_layers.cpp tessel/paint/material_layers_avx2.cpp
+  PROPERTIES
+  COMPILE_OPTIONS "-fno-math-errno;-fno-trapping-math;$<$<CXX_COMPILER_ID:GNU>:-fvect-cost-model=dynamic>")
+# 64-bit Windows keeps the stack aligned to 16 bytes only: 32-byte vector moves must not assume
+# more.
+if(WIN32)
+  set_property(SOURCE tessel/paint/material_layers_avx2.cpp APPEND PROPERTY
+    COMPILE_OPTIONS "-Wa,-muse-unaligned-vector-move")
+endif()

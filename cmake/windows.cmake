@@ -5,7 +5,7 @@ add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
 add_library(stayhold_win32 OBJECT ${STAYHOLD_WIN32_SOURCES})
 target_link_libraries(stayhold_win32 PUBLIC stayhold_portable)
 target_link_libraries(stayhold_win32 PUBLIC shell32 ole32 oleaut32 propsys shlwapi advapi32 winhttp msi user32
-  gdi32 uuid)
+  gdi32 msimg32 uuid)
 
 set(STAYHOLD_ICON_FILE ${CMAKE_BINARY_DIR}/generated/stayhold.ico)
 add_custom_command(

@@ -2,7 +2,8 @@
 # Configures and builds both trees: build/native (portable code, tests, benchmarks) and
 # build/windows (Stayhold.exe, StayholdSetup.exe and the Windows test programs).
 # A third tree, build/fuzz, holds the libFuzzer targets built with clang (not part of "all").
-# Usage: scripts/build.sh [native|windows|fuzz|all]
+# A fourth, build/asan, is the native suite under AddressSanitizer, LeakSanitizer and UBSan.
+# Usage: scripts/build.sh [native|windows|fuzz|asan|all]
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 which=${1:-all}
@@ -17,6 +18,11 @@ if [ "$which" = fuzz ]; then
   cmake -S "$root" -B "$root/build/fuzz" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ -DSTAYHOLD_FUZZ=ON >/dev/null
   cmake --build "$root/build/fuzz" -j "$jobs"
+fi
+if [ "$which" = asan ]; then
+  cmake -S "$root" -B "$root/build/asan" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DSTAYHOLD_WERROR=ON -DSTAYHOLD_SANITIZE=ON >/dev/null
+  cmake --build "$root/build/asan" -j "$jobs" --target stayhold_tests
 fi
 if [ "$which" = windows ] || [ "$which" = all ]; then
   cmake -S "$root" -B "$root/build/windows" -G Ninja -DCMAKE_BUILD_TYPE=Release \

@@ -25,8 +25,9 @@ step() {
 # ctest's own count of tests run; a suite that ran nothing is a failure, not a pass.
 ctest_suite() {
   local tree="$1" log
+  shift
   log=$(mktemp)
-  ctest --test-dir "$tree" --output-on-failure -j 2 --timeout 600 2>&1 | tee "$log"
+  ctest --test-dir "$tree" --output-on-failure -j 2 --timeout 600 "$@" 2>&1 | tee "$log"
   local status=${PIPESTATUS[0]}
   local counts total bad
   counts=$(sed -n 's/.*tests passed, \([0-9]*\) tests\? failed out of \([0-9]*\).*/\1 \2/p' "$log")
@@ -62,6 +63,8 @@ build_step() {
 
 step "native build" build_step native
 step "native tests" ctest_suite build/native
+step "sanitizer build" build_step asan
+step "native tests under sanitizers" ctest_suite build/asan -L sanitized
 step "windows build" build_step windows
 step "windows tests under wine" ctest_suite build/windows
 step "fuzz build" build_step fuzz

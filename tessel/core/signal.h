@@ -74,8 +74,9 @@ class Signal {
   // Dropping the signal disconnects every slot, so an emission still walking its copy when a
   // handler destroyed the owner calls none of the remaining slots, and handles read false.
   ~Signal() {
-    for (const Slot& slot : slots_)
+    for (const Slot& slot : slots_) {
       slot.state->connected = false;
+    }
     *alive_ = false;
   }
 

@@ -77,7 +77,8 @@ int32_t maskOf(const BitmapTint& tint, const Rgb& c, int32_t a, int32_t luma) {
 
 // The distinct straight colours of the covered pixels, darkest first, when there are 2 to 32
 // of them; empty otherwise. Equal lumas are ordered by red, then green, then blue, so the
-// ranking never depends on where a colour first appears.
+// ranking never depends on where a colour first appears. With a threshold of 0, clear pixels
+// take part as black, the colour they un-premultiply to.
 std::vector<Rgb> rankedColors(const Image& image, uint8_t threshold) {
   std::vector<Rgb> colors;
   const size_t count = size_t(image.width) * image.height;

@@ -65,21 +65,26 @@ std::vector<Segment> strokesOf(Glyph glyph) {
   return {};
 }
 
-double distanceToSegment(double px, double py, const Segment& s) {
+// Coverage of a pixel centre by one stroke with flat ends that reach half a pixel past its end
+// points, so that strokes between pixel centres fill whole pixels and meet cleanly at corners.
+double segmentCoverage(double px, double py, const Segment& s) {
   const double dx = s.x1 - s.x0, dy = s.y1 - s.y0;
-  const double length2 = dx * dx + dy * dy;
-  double t = length2 > 0 ? ((px - s.x0) * dx + (py - s.y0) * dy) / length2 : 0.0;
-  t = std::clamp(t, 0.0, 1.0);
-  return std::hypot(px - (s.x0 + t * dx), py - (s.y0 + t * dy));
+  const double length = std::hypot(dx, dy);
+  if (length == 0) {
+    return std::clamp(s.width / 2 + 0.5 - std::hypot(px - s.x0, py - s.y0), 0.0, 1.0);
+  }
+  const double ux = dx / length, uy = dy / length;
+  const double along = (px - s.x0) * ux + (py - s.y0) * uy;
+  const double across = std::abs((px - s.x0) * uy - (py - s.y0) * ux);
+  const double beyond = std::max(-along, along - length);
+  return std::clamp(s.width / 2 + 0.5 - across, 0.0, 1.0) * std::clamp(1 - beyond, 0.0, 1.0);
 }
 
-// Coverage of a pixel centre by the strokes, with a one-pixel soft edge.
+// Coverage of a pixel centre by the strokes.
 double strokeCoverage(const std::vector<Segment>& strokes, double px, double py) {
   double coverage = 0;
-  for (const Segment& s : strokes) {
-    const double d = distanceToSegment(px, py, s);
-    coverage = std::max(coverage, std::clamp(s.width / 2 + 0.5 - d, 0.0, 1.0));
-  }
+  for (const Segment& s : strokes)
+    coverage = std::max(coverage, segmentCoverage(px, py, s));
   return coverage;
 }
 

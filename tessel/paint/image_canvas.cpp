@@ -1,6 +1,7 @@
 #include "tessel/paint/image_canvas.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "tessel/paint/shape_geometry.h"
 #include "tessel/paint/stand_in_font.h"
@@ -83,30 +84,85 @@ void ImageCanvas::fillRect(const Rect& rect, Color color) {
   }
 }
 
+namespace {
+
+// Source-over of one premultiplied pixel scaled by a constant alpha, as AlphaBlend does it.
+inline void blendPixel(uint8_t* d, const uint8_t* s, uint32_t opacity) {
+  if (opacity == 255) {
+    const uint32_t keep = 255 - s[3];
+    for (int c = 0; c < 4; ++c)
+      d[c] = static_cast<uint8_t>(std::min<uint32_t>(255, s[c] + (d[c] * keep + 127) / 255));
+    return;
+  }
+  const uint32_t alpha = (s[3] * opacity + 127) / 255;
+  const uint32_t keep = 255 - alpha;
+  for (int c = 0; c < 3; ++c) {
+    const uint32_t color = (s[c] * opacity + 127) / 255;
+    d[c] = static_cast<uint8_t>(std::min<uint32_t>(255, color + (d[c] * keep + 127) / 255));
+  }
+  d[3] = static_cast<uint8_t>(std::min<uint32_t>(255, alpha + (d[3] * keep + 127) / 255));
+}
+
+}  // namespace
+
 void ImageCanvas::blendImage(const Image& image, const Rect& source, const Rect& target,
                              uint8_t opacity) {
   if (image.empty() || image_.empty() || source.empty() || target.empty() || opacity == 0) return;
-  const Rect box = intersectRects(target, Rect{0, 0, image_.width, image_.height});
+  const bool unscaled = source.width == target.width && source.height == target.height;
+  const Rect box =
+      intersectRects(intersectRects(target, clipBox()), Rect{0, 0, image_.width, image_.height});
+  std::vector<std::pair<int32_t, int32_t>> runs;
   for (int32_t y = box.y; y < box.bottom(); ++y) {
-    const int32_t sy =
-        source.y + static_cast<int32_t>(int64_t(y - target.y) * source.height / target.height);
+    const int32_t sy = unscaled ? source.y + (y - target.y)
+                                : source.y + static_cast<int32_t>(int64_t(y - target.y) *
+                                                                  source.height / target.height);
     if (sy < 0 || sy >= image.height) continue;
-    for (int32_t x = box.x; x < box.right(); ++x) {
-      if (clipped(x, y)) continue;
-      const int32_t sx =
-          source.x + static_cast<int32_t>(int64_t(x - target.x) * source.width / target.width);
-      if (sx < 0 || sx >= image.width) continue;
-      const uint8_t* s = image.pixel(sx, sy);
-      uint8_t* d = image_.pixel(x, y);
-      // Source-over of premultiplied pixels scaled by the constant alpha, as AlphaBlend does.
-      const uint32_t alpha = (s[3] * opacity + 127) / 255;
-      for (int c = 0; c < 3; ++c) {
-        const uint32_t color = (s[c] * opacity + 127) / 255;
-        d[c] = static_cast<uint8_t>(
-            std::min<uint32_t>(255, color + (d[c] * (255 - alpha) + 127) / 255));
+    // The clip of this row as disjoint runs, so overlapping clip rectangles blend once.
+    runs.clear();
+    for (const Rect& clip : clip_) {
+      if (y < clip.y || y >= clip.bottom()) continue;
+      const int32_t from = std::max(clip.x, box.x);
+      const int32_t to = std::min(clip.right(), box.right());
+      if (from < to) runs.emplace_back(from, to);
+    }
+    std::sort(runs.begin(), runs.end());
+    int32_t done = INT32_MIN;
+    for (auto [from, to] : runs) {
+      from = std::max(from, done);
+      if (from >= to) continue;
+      done = to;
+      uint8_t* d = image_.pixel(from, y);
+      if (unscaled) {
+        const int32_t sx0 = source.x + (from - target.x);
+        const int32_t first = std::max(0, -sx0);
+        const int32_t last = std::min(to - from, image.width - sx0);
+        const uint8_t* s = image.pixel(std::max(sx0, 0), sy);
+        d += size_t(first) * 4;
+        for (int32_t i = first; i < last;) {
+          if (opacity == 255 && s[3] == 255) {
+            // An opaque run replaces what is under it: a plain copy.
+            int32_t end = i + 1;
+            while (end < last && s[size_t(end - i) * 4 + 3] == 255)
+              ++end;
+            std::memcpy(d, s, size_t(end - i) * 4);
+            s += size_t(end - i) * 4;
+            d += size_t(end - i) * 4;
+            i = end;
+            continue;
+          }
+          if (s[3] != 0 || (s[0] | s[1] | s[2]) != 0) blendPixel(d, s, opacity);
+          s += 4;
+          d += 4;
+          ++i;
+        }
+        continue;
       }
-      d[3] =
-          static_cast<uint8_t>(std::min<uint32_t>(255, alpha + (d[3] * (255 - alpha) + 127) / 255));
+      for (int32_t x = from; x < to; ++x, d += 4) {
+        const int32_t sx =
+            source.x + static_cast<int32_t>(int64_t(x - target.x) * source.width / target.width);
+        if (sx < 0 || sx >= image.width) continue;
+        blendPixel(d, image.pixel(sx, sy), opacity);
+      }
     }
   }
 }

@@ -2,8 +2,7 @@
 // without a PNG decoder. Windows uses image_file_win32.cpp instead.
 #include "tessel/paint/image_file.h"
 
-#include <fstream>
-#include <iterator>
+#include <cstdio>
 #include <sstream>
 
 #include "guard/wide_text.h"
@@ -47,13 +46,25 @@ bool readPamHeader(const std::string& bytes, size_t& offset, long& width, long& 
   return false;
 }
 
+// The C library's reads, because a stream's read of a directory throws instead of failing.
+bool readWholeFile(const std::string& path, std::string& bytes) {
+  std::FILE* file = std::fopen(path.c_str(), "rb");
+  if (file == nullptr) return false;
+  char buffer[1 << 16];
+  size_t count = 0;
+  while ((count = std::fread(buffer, 1, sizeof buffer, file)) > 0)
+    bytes.append(buffer, count);
+  const bool failed = std::ferror(file) != 0;
+  std::fclose(file);
+  return !failed;
+}
+
 }  // namespace
 
 bool loadImageFile(const std::wstring& path, Image& image) {
   image = Image{};
-  std::ifstream file(Utf8FromWide(path), std::ios::binary);
-  if (!file) return false;
-  const std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  std::string bytes;
+  if (!readWholeFile(Utf8FromWide(path), bytes)) return false;
   size_t offset = 0;
   long width = 0, height = 0, depth = 0, maxval = 0;
   std::string tupleType;

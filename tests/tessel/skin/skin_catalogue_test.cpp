@@ -37,7 +37,7 @@ class SkinFolder : public ::testing::Test {
 
 TEST_F(SkinFolder, FilesInOrderOfTheirLowerCasedNames) {
   write("90-my-skin.json", skin("mine", "Mine"));
-  write("00-base.json", "[" + skin("a", "A") + "," + skin("b", "B") + "]");
+  write("00-base.json", std::string("[") + skin("a", "A") + "," + skin("b", "B") + "]");
   write("SKIN.JSON", skin("upper", "Upper"));
   write("skin.json.bak", skin("backup", "Backup"));
   write("notes.txt", skin("text", "Text"));
@@ -47,22 +47,23 @@ TEST_F(SkinFolder, FilesInOrderOfTheirLowerCasedNames) {
 }
 
 TEST_F(SkinFolder, LaterFileWinsAtTheEarlierPlace) {
-  write("10-first.json", "[" + skin("one", "First") + "," + skin("two", "Two") + "]");
+  write("10-first.json", std::string("[") + skin("one", "First") + "," + skin("two", "Two") + "]");
   write("20-second.json", skin("ONE", "Second"));
   EXPECT_EQ(names(), (std::vector<std::wstring>{L"ONE=Second", L"two=Two"}));
 }
 
 TEST_F(SkinFolder, SameIdTwiceInOneFile) {
-  write("a.json", "[" + skin("x", "1") + "," + skin("y", "2") + "," + skin("X", "3") + "]");
+  write("a.json",
+        std::string("[") + skin("x", "1") + "," + skin("y", "2") + "," + skin("X", "3") + "]");
   EXPECT_EQ(names(), (std::vector<std::wstring>{L"X=3", L"y=2"}));
 }
 
 TEST_F(SkinFolder, BadFilesAndBadSkinsAreSkipped) {
-  write("a.json", "{\"skins\":[" + skin("good", "Good") + ",{\"id\":\"bad\"}]}");
-  write("b.json", "[" + skin("trailing", "T") + ",]");
+  write("a.json", std::string("{\"skins\":[") + skin("good", "Good") + ",{\"id\":\"bad\"}]}");
+  write("b.json", std::string("[") + skin("trailing", "T") + ",]");
   write("c.json", "[{\"id\":\"x\",\"name\":\"\xC3\"}]");
   write("d.json", "");
-  write("e.json", "\xEF\xBB\xBF" + skin("bom", "Bom"));
+  write("e.json", std::string("\xEF\xBB\xBF") + skin("bom", "Bom"));
   EXPECT_EQ(names(), (std::vector<std::wstring>{L"good=Good", L"bom=Bom"}));
 }
 

@@ -1,0 +1,21 @@
+// A plain per-pixel transcription of the material layers, with the standard library's pow, exp
+// and sin, written for reading rather than speed. The painter's row-wise code must stay within
+// one step per channel of it.
+#pragma once
+
+#include "tessel/core/geometry.h"
+#include "tessel/paint/image.h"
+#include "tessel/skin/surface_style.h"
+
+namespace tessel::reference {
+
+// The overlay of `style` over a surface at `rect`, as if its gate had passed, with the
+// effective depth and form given: `cheap` selects the LuminousGlass cheap form.
+Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effectiveDepth,
+                      bool cheap, double phase);
+// The spatial shading, as if its conditions held (an intensity below 0.16 still gives nothing).
+Image spatialShading(const SurfaceStyle& style, const Rect& rect);
+// The noise layer, as if its gate had passed.
+Image noiseLayer(const SurfaceStyle& style, const Rect& rect);
+
+}  // namespace tessel::reference
