@@ -33,10 +33,13 @@ void PutBig32(std::vector<uint8_t>& out, uint32_t value) {
 
 void Chunk(std::ofstream& file, const char* type, const std::vector<uint8_t>& data) {
   std::vector<uint8_t> bytes;
+  bytes.reserve(12 + data.size());
   PutBig32(bytes, static_cast<uint32_t>(data.size()));
   const size_t typeStart = bytes.size();
-  bytes.insert(bytes.end(), type, type + 4);
-  bytes.insert(bytes.end(), data.begin(), data.end());
+  for (int i = 0; i < 4; ++i)
+    bytes.push_back(static_cast<uint8_t>(type[i]));
+  for (const uint8_t byte : data)
+    bytes.push_back(byte);
   PutBig32(bytes, Crc32(bytes.data() + typeStart, bytes.size() - typeStart));
   file.write(reinterpret_cast<const char*>(bytes.data()),
              static_cast<std::streamsize>(bytes.size()));
