@@ -197,7 +197,10 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
       chip.badge.shape = k;
   });
   with(L"checkbox", [&](ShapeKind k) {
-    for (auto& [id, c] : checkBoxes.all()) {
+    for (auto& entry : checkBoxes.all()) {
+      const std::wstring& id = entry.first;
+      auto& c = entry.second;
+      (void)id;
       for (SurfaceStyle* box :
            {&c.boxUnchecked, &c.boxUncheckedHot, &c.boxUncheckedPressed, &c.boxUncheckedDisabled,
             &c.boxChecked, &c.boxCheckedHot, &c.boxCheckedPressed, &c.boxCheckedDisabled}) {
@@ -205,7 +208,10 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
       }
     }
   });
-  for (auto& [id, s] : selectBoxes.all()) {
+  for (auto& entry : selectBoxes.all()) {
+    const std::wstring& id = entry.first;
+    auto& s = entry.second;
+    (void)id;
     with(L"selectbox", [&](ShapeKind k) {
       s.surface.shape = s.hotSurface.shape = s.pressedSurface.shape = s.disabledSurface.shape = k;
     });
@@ -215,7 +221,10 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     });
     with(L"selectdropdown", [&](ShapeKind k) { s.dropdownSurface.shape = k; });
   }
-  for (auto& [id, l] : listBoxes.all()) {
+  for (auto& entry : listBoxes.all()) {
+    const std::wstring& id = entry.first;
+    auto& l = entry.second;
+    (void)id;
     with(L"list", [&](ShapeKind k) {
       l.surface.shape = l.row.shape = l.rowHot.shape = l.rowPressed.shape = k;
       l.selectedRow.shape = l.selectedRowHot.shape = l.selectedRail.shape = k;
@@ -235,7 +244,10 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     for (auto& [id, tabs] : tabStrips.all())
       shapeStates(tabs.itemButton.surface, k);
   });
-  for (auto& [id, menu] : menuBars.all()) {
+  for (auto& entry : menuBars.all()) {
+    const std::wstring& id = entry.first;
+    auto& menu = entry.second;
+    (void)id;
     with(L"menubar", [&](ShapeKind k) { menu.surface.shape = k; });
     with(L"menuitem", [&](ShapeKind k) {
       menu.itemSurface.shape = menu.itemHotSurface.shape = menu.itemPressedSurface.shape =
@@ -246,11 +258,17 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
       menu.popupItemHotSurface.shape = menu.popupItemPressedSurface.shape = k;
     });
   }
-  for (auto& [id, rich] : richTexts.all()) {
+  for (auto& entry : richTexts.all()) {
+    const std::wstring& id = entry.first;
+    auto& rich = entry.second;
+    (void)id;
     with(L"richtext", [&](ShapeKind k) { rich.surface.shape = k; });
     with(L"richtexticon", [&](ShapeKind k) { rich.icon.shape = k; });
   }
-  for (auto& [id, input] : textInputs.all()) {
+  for (auto& entry : textInputs.all()) {
+    const std::wstring& id = entry.first;
+    auto& input = entry.second;
+    (void)id;
     with(L"textinput", [&](ShapeKind k) {
       input.surface.shape = input.hotSurface.shape = input.pressedSurface.shape =
           input.disabledSurface.shape = input.focusedSurface.shape = k;
@@ -261,19 +279,28 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     for (auto& [id, s] : selectableTexts.all())
       s.surface.shape = k;
   });
-  for (auto& [id, tip] : tooltips.all()) {
+  for (auto& entry : tooltips.all()) {
+    const std::wstring& id = entry.first;
+    auto& tip = entry.second;
+    (void)id;
     with(L"tooltip", [&](ShapeKind k) { tip.surface.shape = k; });
     with(L"tooltiprail", [&](ShapeKind k) { tip.accentRail.shape = k; });
     with(L"tooltipicon", [&](ShapeKind k) { tip.icon.shape = k; });
   }
-  for (auto& [id, button] : buttons.all()) {
+  for (auto& entry : buttons.all()) {
+    const std::wstring& id = entry.first;
+    auto& button = entry.second;
+    (void)id;
     with(L"button", [&](ShapeKind k) { shapeStates(button.surface, k); });
     const bool primary = id == L"primary" || id == L"primaryaction" || id == L"success" ||
                          id == L"warning" || id == L"danger";
     with(primary ? L"button.primary" : L"button.secondary",
          [&](ShapeKind k) { shapeStates(button.surface, k); });
   }
-  for (auto& [id, card] : cards.all()) {
+  for (auto& entry : cards.all()) {
+    const std::wstring& id = entry.first;
+    auto& card = entry.second;
+    (void)id;
     for (const wchar_t* role : {L"card", L"card.shape"}) {
       with(role, [&](ShapeKind k) { card.surface.shape = card.header.shape = k; });
     }
@@ -282,13 +309,19 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
       with(role, [&](ShapeKind k) { card.header.shape = k; });
     }
   }
-  for (auto& [id, bar] : progressBars.all()) {
+  for (auto& entry : progressBars.all()) {
+    const std::wstring& id = entry.first;
+    auto& bar = entry.second;
+    (void)id;
     with(L"progress", [&](ShapeKind k) { bar.frame.shape = bar.track.shape = bar.fill.shape = k; });
     with(L"progress.frame", [&](ShapeKind k) { bar.frame.shape = k; });
     with(L"progress.track", [&](ShapeKind k) { bar.track.shape = k; });
     with(L"progress.fill", [&](ShapeKind k) { bar.fill.shape = k; });
   }
-  for (auto& [id, table] : tableLists.all()) {
+  for (auto& entry : tableLists.all()) {
+    const std::wstring& id = entry.first;
+    auto& table = entry.second;
+    (void)id;
     with(L"table", [&](ShapeKind k) {
       table.surface.shape = table.header.shape = table.row.shape = k;
       table.selectedRow.shape = table.selectedRail.shape = k;
@@ -299,7 +332,10 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     with(L"table.selectedrow", [&](ShapeKind k) { table.selectedRow.shape = k; });
     with(L"table.selectedrail", [&](ShapeKind k) { table.selectedRail.shape = k; });
   }
-  for (auto& [id, popup] : popups.all()) {
+  for (auto& entry : popups.all()) {
+    const std::wstring& id = entry.first;
+    auto& popup = entry.second;
+    (void)id;
     with(L"popup", [&](ShapeKind k) { popup.surface.shape = k; });
     with(L"popup.surface", [&](ShapeKind k) { popup.surface.shape = k; });
     with(L"popup.header", [&](ShapeKind k) { popup.header.shape = k; });
@@ -343,7 +379,10 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
       p.surface == MaterialKind::Paper ? MaterialKind::FrostedGlass : MaterialKind::Glass;
   for (auto& [id, panel] : panels.all())
     applyMaterial(panel.surface, p, id == L"glass" ? glass : p.surface, id == L"glass" ? 4 : -8);
-  for (auto& [id, button] : buttons.all()) {
+  for (auto& entry : buttons.all()) {
+    const std::wstring& id = entry.first;
+    auto& button = entry.second;
+    (void)id;
     const bool accent = id == L"primary" || id == L"primaryaction" || id == L"success" ||
                         id == L"warning" || id == L"danger";
     if (accent) {
@@ -352,26 +391,41 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
       materialStates(button.surface, p, p.control, id == L"quiet" ? kQuietDeltas : kControlDeltas);
     }
   }
-  for (auto& [id, card] : cards.all()) {
+  for (auto& entry : cards.all()) {
+    const std::wstring& id = entry.first;
+    auto& card = entry.second;
+    (void)id;
     applyMaterial(card.surface, p, p.surface, -6);
     applyMaterial(card.header, p, p.surface, -2);
   }
-  for (auto& [id, chrome] : chromeTitleBars.all()) {
+  for (auto& entry : chromeTitleBars.all()) {
+    const std::wstring& id = entry.first;
+    auto& chrome = entry.second;
+    (void)id;
     applyMaterial(chrome.surface, p, p.surface, -4);
     materialStates(chrome.titleButton.surface, p, p.control, kQuietDeltas);
   }
-  for (auto& [id, chip] : statusChips.all()) {
+  for (auto& entry : statusChips.all()) {
+    const std::wstring& id = entry.first;
+    auto& chip = entry.second;
+    (void)id;
     applyMaterial(chip.surface, p, p.control, -10);
     applyMaterial(chip.badge, p, p.accent, 8);
   }
-  for (auto& [id, bar] : progressBars.all()) {
+  for (auto& entry : progressBars.all()) {
+    const std::wstring& id = entry.first;
+    auto& bar = entry.second;
+    (void)id;
     applyMaterial(bar.frame, p, p.surface, -10);
     applyMaterial(bar.track, p, p.control, -16);
     applyMaterial(bar.fill, p, p.accent, 8);
   }
   for (auto& [id, bar] : scrollBars.all())
     materialScrollBar(bar, p);
-  for (auto& [id, c] : checkBoxes.all()) {
+  for (auto& entry : checkBoxes.all()) {
+    const std::wstring& id = entry.first;
+    auto& c = entry.second;
+    (void)id;
     applyMaterial(c.boxUnchecked, p, p.control, -16);
     applyMaterial(c.boxUncheckedHot, p, p.control, -8);
     applyMaterial(c.boxUncheckedPressed, p, p.control, -22);
@@ -381,7 +435,10 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
     applyMaterial(c.boxCheckedPressed, p, p.accent, 2);
     applyMaterial(c.boxCheckedDisabled, p, p.accent, -18);
   }
-  for (auto& [id, s] : selectBoxes.all()) {
+  for (auto& entry : selectBoxes.all()) {
+    const std::wstring& id = entry.first;
+    auto& s = entry.second;
+    (void)id;
     applyMaterial(s.surface, p, p.control, -12);
     applyMaterial(s.hotSurface, p, p.control, -4);
     applyMaterial(s.pressedSurface, p, p.control, -18);
@@ -389,13 +446,19 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
     applyMaterial(s.dropdownSurface, p, p.surface, -6);
     materialScrollBar(s.scrollBar, p);
   }
-  for (auto& [id, l] : listBoxes.all()) {
+  for (auto& entry : listBoxes.all()) {
+    const std::wstring& id = entry.first;
+    auto& l = entry.second;
+    (void)id;
     applyMaterial(l.surface, p, p.surface, -12);
     applyMaterial(l.selectedRow, p, p.accent, -10);
     applyMaterial(l.selectedRowHot, p, p.accent, -4);
     materialScrollBar(l.scrollBar, p);
   }
-  for (auto& [id, d] : dateInputs.all()) {
+  for (auto& entry : dateInputs.all()) {
+    const std::wstring& id = entry.first;
+    auto& d = entry.second;
+    (void)id;
     applyMaterial(d.surface, p, p.control, -12);
     applyMaterial(d.hotSurface, p, p.control, -4);
     applyMaterial(d.pressedSurface, p, p.control, -18);
@@ -403,25 +466,37 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
   }
   for (auto& [id, tabs] : tabStrips.all())
     materialStates(tabs.itemButton.surface, p, p.control, kQuietDeltas);
-  for (auto& [id, menu] : menuBars.all()) {
+  for (auto& entry : menuBars.all()) {
+    const std::wstring& id = entry.first;
+    auto& menu = entry.second;
+    (void)id;
     applyMaterial(menu.surface, p, p.surface, -8);
     applyMaterial(menu.popupSurface, p, p.surface, -6);
   }
-  for (auto& [id, table] : tableLists.all()) {
+  for (auto& entry : tableLists.all()) {
+    const std::wstring& id = entry.first;
+    auto& table = entry.second;
+    (void)id;
     applyMaterial(table.surface, p, p.surface, -12);
     applyMaterial(table.header, p, p.surface, -4);
     applyMaterial(table.selectedRow, p, p.accent, -10);
   }
   for (auto& [id, rich] : richTexts.all())
     applyMaterial(rich.surface, p, p.surface, -10);
-  for (auto& [id, input] : textInputs.all()) {
+  for (auto& entry : textInputs.all()) {
+    const std::wstring& id = entry.first;
+    auto& input = entry.second;
+    (void)id;
     applyMaterial(input.surface, p, p.control, -14);
     applyMaterial(input.hotSurface, p, p.control, -6);
     applyMaterial(input.focusedSurface, p, p.control, -4);
   }
   for (auto& [id, s] : selectableTexts.all())
     applyMaterial(s.surface, p, p.surface, -14);
-  for (auto& [id, popup] : popups.all()) {
+  for (auto& entry : popups.all()) {
+    const std::wstring& id = entry.first;
+    auto& popup = entry.second;
+    (void)id;
     applyMaterial(popup.surface, p, p.surface, -6);
     applyMaterial(popup.header, p, p.surface, -2);
     materialStates(popup.primaryAction.surface, p, p.accent, kAccentDeltas);
