@@ -10,6 +10,13 @@ bool IsWhiteSpace(wchar_t c) {
          code == 0x2028 || code == 0x2029 || code == 0x202F || code == 0x205F || code == 0x3000;
 }
 
+int HexDigitValue(wchar_t c) {
+  if (c >= L'0' && c <= L'9') return c - L'0';
+  if (c >= L'a' && c <= L'f') return c - L'a' + 10;
+  if (c >= L'A' && c <= L'F') return c - L'A' + 10;
+  return -1;
+}
+
 std::wstring TrimWhiteSpace(const std::wstring& text) {
   size_t begin = 0;
   size_t end = text.size();

@@ -21,6 +21,9 @@ std::string Utf8FromWide(const std::wstring& text);
 // as MultiByteToWideChar with MB_ERR_INVALID_CHARS refuses them.
 bool WideFromUtf8Strict(const std::string& bytes, std::wstring& text);
 
+// The value of one hexadecimal digit of either case, or -1.
+int HexDigitValue(wchar_t c);
+
 // Decimal digits of an unsigned value.
 std::wstring DecimalText(unsigned long long value);
 // Decimal digits with a minus sign for a negative value.

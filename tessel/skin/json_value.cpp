@@ -146,13 +146,6 @@ class Parser {
     }
   }
 
-  static int hexDigit(wchar_t c) {
-    if (c >= L'0' && c <= L'9') return c - L'0';
-    if (c >= L'a' && c <= L'f') return c - L'a' + 10;
-    if (c >= L'A' && c <= L'F') return c - L'A' + 10;
-    return -1;
-  }
-
   // Raw control characters are copied as they stand; surrogate halves are kept one by one.
   bool parseString(std::wstring& out) {
     ++position_;
@@ -194,7 +187,7 @@ class Parser {
           if (text_.size() - position_ < 4) return false;
           unsigned unit = 0;
           for (int i = 0; i < 4; ++i) {
-            const int digit = hexDigit(text_[position_ + i]);
+            const int digit = HexDigitValue(text_[position_ + i]);
             if (digit < 0) return false;
             unit = unit * 16 + static_cast<unsigned>(digit);
           }

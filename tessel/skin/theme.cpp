@@ -8,13 +8,6 @@ namespace tessel {
 
 namespace {
 
-int hexValue(wchar_t c) {
-  if (c >= L'0' && c <= L'9') return c - L'0';
-  if (c >= L'a' && c <= L'f') return c - L'a' + 10;
-  if (c >= L'A' && c <= L'F') return c - L'A' + 10;
-  return -1;
-}
-
 void readColor(const JsonValue& object, Aliases aliases, Color& color) {
   const JsonValue* member = findMember(object, aliases);
   if (member != nullptr && member->isString()) parseHexColor(member->text, color);
@@ -41,7 +34,7 @@ bool parseHexColor(const std::wstring& text, Color& color) {
   if (digits.size() != 6) return false;
   uint32_t value = 0;
   for (wchar_t c : digits) {
-    const int digit = hexValue(c);
+    const int digit = HexDigitValue(c);
     if (digit < 0) return false;
     value = value * 16 + static_cast<uint32_t>(digit);
   }

@@ -42,6 +42,13 @@ TEST(TrimWhiteSpace, BothEnds) {
   EXPECT_EQ(TrimWhiteSpace(FromUnits({0x200B, 'a'})), FromUnits({0x200B, 'a'}));  // zero width
 }
 
+TEST(HexDigitValue, EitherCaseAndNothingElse) {
+  const std::pair<wchar_t, int> cases[] = {{L'0', 0},  {L'9', 9},  {L'a', 10},           {L'F', 15},
+                                           {L'g', -1}, {L' ', -1}, {wchar_t(0xFF10), -1}};
+  for (const auto& [c, value] : cases)
+    EXPECT_EQ(HexDigitValue(c), value) << int(c);
+}
+
 TEST(DecimalText, Digits) {
   EXPECT_EQ(DecimalText(0), L"0");
   EXPECT_EQ(DecimalText(600000), L"600000");
