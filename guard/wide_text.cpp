@@ -27,6 +27,12 @@ std::wstring TrimWhiteSpace(const std::wstring& text) {
   return text.substr(begin, end - begin);
 }
 
+std::wstring LowerCase(std::wstring text) {
+  for (wchar_t& c : text)
+    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
+  return text;
+}
+
 bool EqualsIgnoringCase(const std::wstring& a, const std::wstring& b) {
   if (a.size() != b.size()) return false;
   for (size_t i = 0; i < a.size(); ++i) {

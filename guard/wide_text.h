@@ -10,6 +10,9 @@ bool IsWhiteSpace(wchar_t c);
 // White space trimmed at both ends, by IsWhiteSpace.
 std::wstring TrimWhiteSpace(const std::wstring& text);
 
+// Each code unit through towlower (the C runtime's case rules, not the locale's).
+std::wstring LowerCase(std::wstring text);
+
 // Equal after towlower of each character (the C runtime's case rules, not the locale's).
 bool EqualsIgnoringCase(const std::wstring& a, const std::wstring& b);
 

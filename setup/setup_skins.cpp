@@ -1,26 +1,15 @@
 #include "setup/setup_skins.h"
 
-#include <cwctype>
-
 #include "guard/file_system.h"
 #include "guard/install_folder.h"
+#include "guard/wide_text.h"
 #include "guard/win_path.h"
 #include "setup/install_paths.h"
-
-namespace {
-
-std::wstring Lower(std::wstring text) {
-  for (wchar_t& c : text)
-    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
-  return text;
-}
-
-}  // namespace
 
 std::vector<PayloadRow> SetupSkinRows(const PayloadRow* table) {
   std::vector<PayloadRow> rows;
   for (const PayloadRow& row : CountingPayloadRows(table)) {
-    const std::wstring path = Lower(row.relative_path);
+    const std::wstring path = LowerCase(row.relative_path);
     const size_t slash = path.find_last_of(L"\\/");
     if (slash == std::wstring::npos || path.size() < 5 ||
         path.compare(path.size() - 5, 5, L".json") != 0) {

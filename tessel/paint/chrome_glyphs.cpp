@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cwctype>
 #include <vector>
 
+#include "guard/wide_text.h"
 #include "tessel/paint/color.h"
 #include "tessel/paint/image_file.h"
 
@@ -27,9 +27,7 @@ bool endsWith(const std::wstring& text, const std::wstring& tail) {
 }
 
 Glyph glyphFor(const std::wstring& baseName) {
-  std::wstring name = baseName;
-  for (wchar_t& c : name)
-    c = wchar_t(std::towlower(wint_t(c)));
+  const std::wstring name = LowerCase(baseName);
   if (endsWith(name, L"minimize")) return Glyph::Minimize;
   if (endsWith(name, L"maximize")) return Glyph::Maximize;
   if (endsWith(name, L"restore")) return Glyph::Restore;

@@ -1,7 +1,5 @@
 #include "tessel/paint/shape_kind.h"
 
-#include <cwctype>
-
 #include "guard/wide_text.h"
 #include "tessel/skin/property_table.h"
 
@@ -86,9 +84,7 @@ const ModeSpelling kModeSpellings[] = {
 }  // namespace
 
 bool parseShapeKind(const std::wstring& text, ShapeKind& kind) {
-  std::wstring word = TrimWhiteSpace(text);
-  for (wchar_t& c : word)
-    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
+  const std::wstring word = LowerCase(TrimWhiteSpace(text));
   for (const ShapeSpelling& spelling : kShapeSpellings) {
     if (word == spelling.text) {
       kind = spelling.kind;

@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <cwchar>
-#include <cwctype>
 #include <sstream>
 
 #include "guard/wide_text.h"
@@ -15,12 +14,6 @@ int32_t clampToInt32(long long value) {
   if (value > INT32_MAX) return INT32_MAX;
   if (value < INT32_MIN) return INT32_MIN;
   return static_cast<int32_t>(value);
-}
-
-std::wstring lowerCase(std::wstring text) {
-  for (wchar_t& c : text)
-    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
-  return text;
 }
 
 }  // namespace
@@ -65,7 +58,7 @@ bool boolOr(const JsonValue* value, bool fallback) {
     case JsonValue::Kind::Number:
       return value->number != 0;
     case JsonValue::Kind::String: {
-      const std::wstring word = lowerCase(TrimWhiteSpace(value->text));
+      const std::wstring word = LowerCase(TrimWhiteSpace(value->text));
       if (word == L"true" || word == L"1" || word == L"yes" || word == L"on") return true;
       if (word == L"false" || word == L"0" || word == L"no" || word == L"off") return false;
       return fallback;

@@ -1,7 +1,6 @@
 #include "tessel/skin/skin_catalogue.h"
 
 #include <algorithm>
-#include <cwctype>
 #include <system_error>
 
 #include "guard/wide_text.h"
@@ -10,12 +9,6 @@
 namespace tessel {
 
 namespace {
-
-std::wstring lowerCase(std::wstring text) {
-  for (wchar_t& c : text)
-    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
-  return text;
-}
 
 void addOrReplace(std::vector<SkinDefinition>& list, SkinDefinition skin) {
   for (SkinDefinition& entry : list) {
@@ -58,8 +51,8 @@ std::vector<SkinDefinition> loadSkinFolder(const std::wstring& folder) {
     std::error_code statusError;
     if (!it->is_regular_file(statusError)) continue;
     const std::filesystem::path& path = it->path();
-    if (lowerCase(path.extension().wstring()) != L".json") continue;
-    files.emplace_back(lowerCase(path.filename().wstring()), path);
+    if (LowerCase(path.extension().wstring()) != L".json") continue;
+    files.emplace_back(LowerCase(path.filename().wstring()), path);
   }
   // Ordinal order of the lower-cased names: "00-..." before "01-...", "90-my-skin" late.
   std::sort(files.begin(), files.end(),

@@ -1,7 +1,6 @@
 #include "tessel/skin/skin_definition.h"
 
 #include <algorithm>
-#include <cwctype>
 
 #include "guard/wide_text.h"
 #include "tessel/paint/gradient_words.h"
@@ -13,14 +12,8 @@ namespace tessel {
 
 namespace {
 
-std::wstring lowerCase(std::wstring text) {
-  for (wchar_t& c : text)
-    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
-  return text;
-}
-
 void addTag(std::vector<std::wstring>& tags, const std::wstring& tag) {
-  const std::wstring lower = lowerCase(tag);
+  const std::wstring lower = LowerCase(tag);
   if (lower.empty() || std::find(tags.begin(), tags.end(), lower) != tags.end()) return;
   tags.push_back(lower);
 }

@@ -1,34 +1,23 @@
 #include "tessel/skin/style_reader.h"
 
 #include <cwchar>
-#include <cwctype>
 #include <vector>
 
 #include "guard/wide_text.h"
 
 namespace tessel {
 
-namespace {
-
-std::wstring lowerTrimmed(const std::wstring& text) {
-  std::wstring word = TrimWhiteSpace(text);
-  for (wchar_t& c : word)
-    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
-  return word;
-}
-
-std::vector<std::wstring> splitAtCommas(const std::wstring& text) {
+std::vector<std::wstring> splitStyleList(const std::wstring& text) {
   std::vector<std::wstring> parts;
   size_t start = 0;
-  while (true) {
-    const size_t comma = text.find(L',', start);
-    parts.push_back(text.substr(start, comma == std::wstring::npos ? comma : comma - start));
-    if (comma == std::wstring::npos) return parts;
+  while (start <= text.size()) {
+    size_t comma = text.find(L',', start);
+    if (comma == std::wstring::npos) comma = text.size();
+    parts.push_back(TrimWhiteSpace(text.substr(start, comma - start)));
     start = comma + 1;
   }
+  return parts;
 }
-
-}  // namespace
 
 bool parseStyleInteger(const std::wstring& text, int32_t& value) {
   const wchar_t* begin = text.c_str();
@@ -43,7 +32,7 @@ bool parseStyleInteger(const std::wstring& text, int32_t& value) {
 
 bool parseStyleColor(const std::wstring& text, Color& color) {
   if (parseHexColor(text, color)) return true;
-  const std::vector<std::wstring> parts = splitAtCommas(text);
+  const std::vector<std::wstring> parts = splitStyleList(text);
   if (parts.size() != 3) return false;
   int32_t channels[3] = {0, 0, 0};
   for (int i = 0; i < 3; ++i) {
@@ -55,7 +44,7 @@ bool parseStyleColor(const std::wstring& text, Color& color) {
 }
 
 bool parseFontWeight(const std::wstring& text, int32_t& weight) {
-  const std::wstring word = lowerTrimmed(text);
+  const std::wstring word = LowerCase(TrimWhiteSpace(text));
   const struct {
     const wchar_t* word;
     int32_t weight;
@@ -72,7 +61,7 @@ bool parseFontWeight(const std::wstring& text, int32_t& weight) {
 }
 
 bool parseStyleBool(const std::wstring& text, bool& value) {
-  const std::wstring word = lowerTrimmed(text);
+  const std::wstring word = LowerCase(TrimWhiteSpace(text));
   if (word == L"true" || word == L"1" || word == L"yes" || word == L"on") {
     value = true;
     return true;

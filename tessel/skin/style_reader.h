@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "tessel/paint/color.h"
 #include "tessel/paint/shape_kind.h"
@@ -19,6 +20,9 @@ struct StyleContext {
   const Theme* theme = nullptr;
   std::wstring sourceDirectory;
 };
+
+// The parts of a comma list (as flattened arrays are stored), each trimmed; empty parts stay.
+std::vector<std::wstring> splitStyleList(const std::wstring& text);
 
 // Colours "#RRGGBB" (the "#" optional) or "r,g,b" with each number clamped to 0..255.
 bool parseStyleColor(const std::wstring& text, Color& color);

@@ -1,15 +1,11 @@
 #include "tessel/skin/surface_builder.h"
 
-#include <cwctype>
-
 #include "guard/wide_text.h"
 
 namespace tessel {
 
 SurfaceMode parseSurfaceMode(const std::wstring& text) {
-  std::wstring word = TrimWhiteSpace(text);
-  for (wchar_t& c : word)
-    c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
+  const std::wstring word = LowerCase(TrimWhiteSpace(text));
   if (word == L"flat-2d" || word == L"flat2d" || word == L"2d" || word == L"flat") {
     return SurfaceMode::Flat2d;
   }

@@ -21,18 +21,6 @@ const std::wstring* firstPresent(const StyleReader& reader, Names names) {
   return nullptr;
 }
 
-std::vector<std::wstring> splitList(const std::wstring& text) {
-  std::vector<std::wstring> parts;
-  size_t start = 0;
-  while (start <= text.size()) {
-    size_t comma = text.find(L',', start);
-    if (comma == std::wstring::npos) comma = text.size();
-    parts.push_back(TrimWhiteSpace(text.substr(start, comma - start)));
-    start = comma + 1;
-  }
-  return parts;
-}
-
 bool parseUvMapping(const std::wstring& text, int32_t& mapping) {
   const std::wstring word = normalizeKey(text);
   if (word == L"0" || word == L"local" || word == L"surface" || word == L"control") {
@@ -289,7 +277,7 @@ bool parseInsets(const StyleReader& reader, const std::wstring& name, Insets& in
   if (const std::wstring* text = reader.find(name)) {
     std::vector<int32_t> numbers;
     bool valid = true;
-    for (const std::wstring& part : splitList(*text)) {
+    for (const std::wstring& part : splitStyleList(*text)) {
       int32_t number = 0;
       if (!parseStyleInteger(part, number)) valid = false;
       numbers.push_back(number);
@@ -348,7 +336,7 @@ void parseBitmapTint(const StyleReader& reader, BitmapTint& tint) {
     BitmapTint parsed = tint;
     parsed.paletteCount = 0;
     bool valid = true;
-    for (const std::wstring& entry : splitList(*text)) {
+    for (const std::wstring& entry : splitStyleList(*text)) {
       if (parsed.paletteCount >= parsed.palette.size()) break;
       Color color = 0;
       if (!parseTintColor(reader, entry, color)) {
