@@ -14,7 +14,7 @@
 #include "tessel/paint/stand_in_font.h"
 #include "tessel/skin/skin_catalogue.h"
 #include "tessel/skin/style_sheet.h"
-#include "tests/support/png_writer.h"
+#include "tests/support/png_file.h"
 #include "tests/support/source_files.h"
 
 using namespace tessel;

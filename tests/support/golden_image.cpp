@@ -81,9 +81,14 @@ bool ReadPamImage(const std::filesystem::path& path, tessel::Image& image) {
   if (!ReadPamImage(path, expected))
     return ::testing::AssertionFailure()
            << "cannot read " << path.string() << " (regenerate with STAYHOLD_REGENERATE_GOLDEN=1)";
+  return CompareImages(image, expected, relative, tolerance);
+}
+
+::testing::AssertionResult CompareImages(const tessel::Image& image, const tessel::Image& expected,
+                                         const std::string& label, int tolerance) {
   if (image.empty() || expected.width != image.width || expected.height != image.height)
     return ::testing::AssertionFailure()
-           << relative << ": size " << image.width << "x" << image.height << ", expected "
+           << label << ": size " << image.width << "x" << image.height << ", expected "
            << expected.width << "x" << expected.height;
   int64_t differing = 0;
   std::string first;
@@ -104,7 +109,6 @@ bool ReadPamImage(const std::filesystem::path& path, tessel::Image& image) {
     }
   }
   if (differing == 0) return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure()
-         << relative << ": " << differing << " pixel(s) differ beyond " << tolerance << "; first "
-         << first;
+  return ::testing::AssertionFailure() << label << ": " << differing << " pixel(s) differ beyond "
+                                       << tolerance << "; first " << first;
 }

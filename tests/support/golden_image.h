@@ -21,3 +21,12 @@ bool ReadPamImage(const std::filesystem::path& path, tessel::Image& image);
 // While regenerating, writes the fixture instead and succeeds.
 ::testing::AssertionResult MatchesGoldenImage(const tessel::Image& image,
                                               const std::string& relative, int tolerance);
+
+// As MatchesGoldenImage, with the fixture kept as a PNG file (png_file.h): for larger, opaque
+// images such as skin galleries. Native build only.
+::testing::AssertionResult MatchesGoldenPng(const tessel::Image& image, const std::string& relative,
+                                            int tolerance);
+
+// Compares two images channel by channel; `label` names the image in a failure.
+::testing::AssertionResult CompareImages(const tessel::Image& image, const tessel::Image& expected,
+                                         const std::string& label, int tolerance);

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <climits>
+#include <vector>
+
 #include "tessel/paint/gradient.h"
 #include "tessel/paint/image_canvas.h"
 #include "tessel/paint/layer_cache.h"
@@ -149,6 +153,86 @@ TEST_F(SurfacePainter, HugeLayersArePaintedButNotKept) {
   EXPECT_EQ(image.alphaAt(2, 2), 255);
   drawSurface(canvas, Rect{0, 0, 30, 30}, s, UiPerformanceProfile::BestGraphics);
   EXPECT_EQ(layerCacheKeys().size(), 1u);
+}
+
+// A segmented body equals one surface painted on the straightened spans: each row (or column)
+// of the body is the same row of a reference painted on a rectangle of the longest span, over
+// the same ground, shifted to the row's start. Pixels outside every span keep the ground.
+struct SegmentedCase {
+  const char* what;
+  std::vector<Rect> segments;
+  Size straight;  // longest span by the other side of the box
+  bool rows;
+};
+
+TEST_F(SurfacePainter, SegmentedBodiesPaintOneStraightenedSurface) {
+  const SegmentedCase cases[] = {
+      {"notched popup: row spans", {{0, 0, 20, 10}, {5, 10, 30, 30}}, {30, 40}, true},
+      {"grouped buttons: column spans", {{0, 0, 10, 8}, {10, 2, 30, 10}}, {40, 10}, false},
+      {"rows without a segment stay untouched", {{0, 0, 10, 5}, {2, 10, 10, 5}}, {10, 15}, true},
+      {"empty segments are left out",
+       {{3, 3, 0, 9}, {0, 0, 12, 12}, {4, 4, 5, -2}},
+       {12, 12},
+       true},
+  };
+  const Color ground = rgbColor(180, 20, 20);
+  SurfaceStyle s = Plain();
+  s.useGradient = true;
+  s.useGradientMid = true;
+  s.gradientStart = rgbColor(0, 0, 0);
+  s.gradientMid = rgbColor(40, 200, 90);
+  s.gradientEnd = rgbColor(250, 250, 250);
+  s.gradientDirection = 4;  // diagonal: both axes count
+  s.opacity = 160;          // the ground must travel along to blend right
+  for (const SegmentedCase& c : cases) {
+    SCOPED_TRACE(c.what);
+    clearPaintCaches();
+    Image body = Image::blank(48, 48);
+    ImageCanvas canvas(body);
+    canvas.fillRect(Rect{0, 0, 48, 48}, ground);
+    drawSegmentedSurface(canvas, c.segments, s, UiPerformanceProfile::BestGraphics);
+    Image reference = Image::blank(c.straight.width, c.straight.height);
+    ImageCanvas referenceCanvas(reference);
+    referenceCanvas.fillRect(Rect{0, 0, c.straight.width, c.straight.height}, ground);
+    drawSurface(referenceCanvas, Rect{0, 0, c.straight.width, c.straight.height}, s,
+                UiPerformanceProfile::BestGraphics);
+    Image groundOnly = Image::blank(1, 1);
+    ImageCanvas(groundOnly).fillRect(Rect{0, 0, 1, 1}, ground);
+    const uint32_t groundPixel = *reinterpret_cast<const uint32_t*>(groundOnly.pixel(0, 0));
+    for (int32_t y = 0; y < 48; ++y) {
+      for (int32_t x = 0; x < 48; ++x) {
+        // The span this pixel belongs to, from the segments that cross its row or column.
+        int32_t start = INT32_MAX, end = INT32_MIN;
+        for (const Rect& r : c.segments) {
+          if (r.empty()) continue;
+          if (c.rows ? (y >= r.y && y < r.bottom()) : (x >= r.x && x < r.right())) {
+            start = std::min(start, c.rows ? r.x : r.y);
+            end = std::max(end, c.rows ? r.right() : r.bottom());
+          }
+        }
+        const int32_t along = c.rows ? x : y;
+        const bool inside = along >= start && along < end;
+        const uint32_t got = *reinterpret_cast<const uint32_t*>(body.pixel(x, y));
+        const uint32_t want =
+            inside ? *reinterpret_cast<const uint32_t*>(c.rows ? reference.pixel(x - start, y)
+                                                               : reference.pixel(x, y - start))
+                   : groundPixel;
+        ASSERT_EQ(got, want) << "at " << x << "," << y;
+      }
+    }
+  }
+}
+
+TEST_F(SurfacePainter, SegmentedBodyWithoutSegmentsPaintsNothing) {
+  SurfaceStyle s = Plain();
+  Image image = Image::blank(8, 8);
+  ImageCanvas canvas(image);
+  drawSegmentedSurface(canvas, {}, s, UiPerformanceProfile::BestGraphics);
+  drawSegmentedSurface(canvas, {Rect{1, 1, 0, 5}, Rect{2, 2, 4, 0}}, s,
+                       UiPerformanceProfile::BestGraphics);
+  for (int32_t y = 0; y < 8; ++y)
+    for (int32_t x = 0; x < 8; ++x)
+      EXPECT_EQ(image.alphaAt(x, y), 0);
 }
 
 struct PositionCase {
