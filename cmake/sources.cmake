@@ -39,7 +39,9 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/image.cpp
   tessel/paint/image_file_common.cpp
   tessel/paint/image_canvas.cpp
+  tessel/paint/pixel_blend.cpp
   tessel/paint/layer_cache.cpp
+  tessel/paint/layer_runs.cpp
   tessel/paint/material_kind.cpp
   tessel/paint/material_layers.cpp
   tessel/paint/material_layers_avx2.cpp

@@ -12,6 +12,7 @@
 #include "tessel/core/geometry.h"
 #include "tessel/paint/color.h"
 #include "tessel/paint/image.h"
+#include "tessel/paint/layer_runs.h"
 #include "tessel/skin/text_style.h"
 
 namespace tessel {
@@ -44,6 +45,14 @@ class Canvas {
   // constant alpha `opacity`.
   virtual void blendImage(const Image& image, const Rect& source, const Rect& target,
                           uint8_t opacity) = 0;
+  // Blends a whole kept layer at full opacity with its top-left at `at`, described by its runs
+  // (layer_runs.h): the same pixels as blendImage. Targets that gain nothing from the runs
+  // keep this plain form.
+  virtual void blendLayer(const Image& layer, const std::vector<LayerRun>& runs, Point at) {
+    (void)runs;
+    blendImage(layer, Rect{0, 0, layer.width, layer.height},
+               Rect{at.x, at.y, layer.width, layer.height}, 255);
+  }
   // The target's pixels under `rect` (outside the target: transparent).
   virtual Image copyPixels(const Rect& rect) const = 0;
   // Writes pixels as they are, without blending, with `source`'s top-left at `target`.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "tessel/paint/pixel_blend.h"
 #include "tessel/paint/shape_geometry.h"
 #include "tessel/paint/stand_in_font.h"
 
@@ -70,40 +71,35 @@ bool ImageCanvas::clipped(int32_t x, int32_t y) const {
 
 void ImageCanvas::fillRect(const Rect& rect, Color color) {
   if (image_.empty()) return;
+  const uint32_t word = 0xFF000000u | redOf(color) << 16 | greenOf(color) << 8 | blueOf(color);
   for (const Rect& clip : clip_) {
     const Rect area = intersectRects(rect, clip);
-    for (int32_t y = area.y; y < area.bottom(); ++y) {
-      for (int32_t x = area.x; x < area.right(); ++x) {
-        uint8_t* p = image_.pixel(x, y);
-        p[0] = static_cast<uint8_t>(blueOf(color));
-        p[1] = static_cast<uint8_t>(greenOf(color));
-        p[2] = static_cast<uint8_t>(redOf(color));
-        p[3] = 255;
-      }
+    for (int32_t y = area.y; y < area.bottom(); ++y)
+      fillRow(image_.pixel(area.x, y), word, area.width);
+  }
+}
+
+void ImageCanvas::rowClipRuns(int32_t y, const Rect& box,
+                              std::vector<std::pair<int32_t, int32_t>>& runs) const {
+  runs.clear();
+  for (const Rect& clip : clip_) {
+    if (y < clip.y || y >= clip.bottom()) continue;
+    const int32_t from = std::max(clip.x, box.x);
+    const int32_t to = std::min(clip.right(), box.right());
+    if (from < to) runs.emplace_back(from, to);
+  }
+  std::sort(runs.begin(), runs.end());
+  // Overlapping clip rectangles merge, so that nothing is blended twice.
+  size_t kept = 0;
+  for (const auto& run : runs) {
+    if (kept > 0 && run.first <= runs[kept - 1].second) {
+      runs[kept - 1].second = std::max(runs[kept - 1].second, run.second);
+      continue;
     }
+    runs[kept++] = run;
   }
+  runs.resize(kept);
 }
-
-namespace {
-
-// Source-over of one premultiplied pixel scaled by a constant alpha, as AlphaBlend does it.
-inline void blendPixel(uint8_t* d, const uint8_t* s, uint32_t opacity) {
-  if (opacity == 255) {
-    const uint32_t keep = 255 - s[3];
-    for (int c = 0; c < 4; ++c)
-      d[c] = static_cast<uint8_t>(std::min<uint32_t>(255, s[c] + (d[c] * keep + 127) / 255));
-    return;
-  }
-  const uint32_t alpha = (s[3] * opacity + 127) / 255;
-  const uint32_t keep = 255 - alpha;
-  for (int c = 0; c < 3; ++c) {
-    const uint32_t color = (s[c] * opacity + 127) / 255;
-    d[c] = static_cast<uint8_t>(std::min<uint32_t>(255, color + (d[c] * keep + 127) / 255));
-  }
-  d[3] = static_cast<uint8_t>(std::min<uint32_t>(255, alpha + (d[3] * keep + 127) / 255));
-}
-
-}  // namespace
 
 void ImageCanvas::blendImage(const Image& image, const Rect& source, const Rect& target,
                              uint8_t opacity) {
@@ -117,44 +113,15 @@ void ImageCanvas::blendImage(const Image& image, const Rect& source, const Rect&
                                 : source.y + static_cast<int32_t>(int64_t(y - target.y) *
                                                                   source.height / target.height);
     if (sy < 0 || sy >= image.height) continue;
-    // The clip of this row as disjoint runs, so overlapping clip rectangles blend once.
-    runs.clear();
-    for (const Rect& clip : clip_) {
-      if (y < clip.y || y >= clip.bottom()) continue;
-      const int32_t from = std::max(clip.x, box.x);
-      const int32_t to = std::min(clip.right(), box.right());
-      if (from < to) runs.emplace_back(from, to);
-    }
-    std::sort(runs.begin(), runs.end());
-    int32_t done = INT32_MIN;
-    for (auto [from, to] : runs) {
-      from = std::max(from, done);
-      if (from >= to) continue;
-      done = to;
+    rowClipRuns(y, box, runs);
+    for (const auto& [from, to] : runs) {
       uint8_t* d = image_.pixel(from, y);
       if (unscaled) {
         const int32_t sx0 = source.x + (from - target.x);
         const int32_t first = std::max(0, -sx0);
         const int32_t last = std::min(to - from, image.width - sx0);
-        const uint8_t* s = image.pixel(std::max(sx0, 0), sy);
-        d += size_t(first) * 4;
-        for (int32_t i = first; i < last;) {
-          if (opacity == 255 && s[3] == 255) {
-            // An opaque run replaces what is under it: a plain copy.
-            int32_t end = i + 1;
-            while (end < last && s[size_t(end - i) * 4 + 3] == 255)
-              ++end;
-            std::memcpy(d, s, size_t(end - i) * 4);
-            s += size_t(end - i) * 4;
-            d += size_t(end - i) * 4;
-            i = end;
-            continue;
-          }
-          if (s[3] != 0 || (s[0] | s[1] | s[2]) != 0) blendPixel(d, s, opacity);
-          s += 4;
-          d += 4;
-          ++i;
-        }
+        if (first < last)
+          blendRow(d + size_t(first) * 4, image.pixel(sx0 + first, sy), last - first, opacity);
         continue;
       }
       for (int32_t x = from; x < to; ++x, d += 4) {
@@ -163,6 +130,36 @@ void ImageCanvas::blendImage(const Image& image, const Rect& source, const Rect&
         if (sx < 0 || sx >= image.width) continue;
         blendPixel(d, image.pixel(sx, sy), opacity);
       }
+    }
+  }
+}
+
+void ImageCanvas::blendLayer(const Image& layer, const std::vector<LayerRun>& layerRuns, Point at) {
+  if (layer.empty() || image_.empty()) return;
+  const Rect box =
+      intersectRects(intersectRects(Rect{at.x, at.y, layer.width, layer.height}, clipBox()),
+                     Rect{0, 0, image_.width, image_.height});
+  if (box.empty()) return;
+  std::vector<std::pair<int32_t, int32_t>> clips;
+  // One clip rectangle is the common case: its runs are the same on every row of the box.
+  const bool oneClip = clip_.size() == 1;
+  if (oneClip) clips.emplace_back(box.x, box.right());
+  int32_t clipsOfRow = INT32_MIN;
+  for (const LayerRun& run : layerRuns) {
+    const int32_t y = at.y + run.y;
+    if (y < box.y || y >= box.bottom()) continue;
+    if (!oneClip && y != clipsOfRow) {
+      rowClipRuns(y, box, clips);
+      clipsOfRow = y;
+    }
+    for (const auto& [clipFrom, clipTo] : clips) {
+      const int32_t from = std::max(clipFrom, at.x + run.from);
+      const int32_t to = std::min(clipTo, at.x + run.to);
+      if (from >= to) continue;
+      if (run.solid != 0)
+        fillRow(image_.pixel(from, y), run.solid, to - from);
+      else
+        blendRow(image_.pixel(from, y), layer.pixel(from - at.x, run.y), to - from, 255);
     }
   }
 }

@@ -2,6 +2,9 @@
 // of deforming and segmented paints. Text is the stand-in font, scaled from the point size.
 #pragma once
 
+#include <utility>
+#include <vector>
+
 #include "tessel/paint/canvas.h"
 
 namespace tessel {
@@ -18,6 +21,7 @@ class ImageCanvas : public Canvas {
   void fillRect(const Rect& rect, Color color) override;
   void blendImage(const Image& image, const Rect& source, const Rect& target,
                   uint8_t opacity) override;
+  void blendLayer(const Image& layer, const std::vector<LayerRun>& runs, Point at) override;
   Image copyPixels(const Rect& rect) const override;
   void putPixels(const Image& image, const Rect& source, Point target) override;
   Size measureText(const std::wstring& text, const TextStyle& style) const override;
@@ -28,6 +32,10 @@ class ImageCanvas : public Canvas {
   bool clipped(int32_t x, int32_t y) const;
 
  private:
+  // The clip of row `y` within `box` as disjoint runs from left to right.
+  void rowClipRuns(int32_t y, const Rect& box,
+                   std::vector<std::pair<int32_t, int32_t>>& runs) const;
+
   Image& image_;
   std::vector<Rect> clip_;  // disjoint-or-not rectangles whose union is the clip
   std::vector<std::vector<Rect>> saved_;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "tessel/paint/layer_runs.h"
+
 namespace tessel {
 
 namespace {
@@ -12,6 +14,9 @@ struct Entry {
   int32_t width;
   int32_t height;
   Image pixels;
+  // Described on the first hit, so that layers painted once cost no extra pass.
+  std::vector<LayerRun> runs;
+  bool described = false;
 };
 
 std::vector<Entry>& cache() {
@@ -83,7 +88,11 @@ bool drawCachedLayer(Canvas& canvas, const Rect& rect, uint64_t key,
   const Rect source{0, 0, rect.width, rect.height};
   for (auto it = entries.begin(); it != entries.end(); ++it) {
     if (it->key != key || it->width != rect.width || it->height != rect.height) continue;
-    canvas.blendImage(it->pixels, source, rect, 255);
+    if (!it->described) {
+      it->runs = findLayerRuns(it->pixels);
+      it->described = true;
+    }
+    canvas.blendLayer(it->pixels, it->runs, Point{rect.x, rect.y});
     // A hit becomes the most recently used.
     std::rotate(it, it + 1, entries.end());
     return true;
@@ -93,7 +102,7 @@ bool drawCachedLayer(Canvas& canvas, const Rect& rect, uint64_t key,
   Image layer = Image::blank(rect.width, rect.height);
   produce(layer);
   canvas.blendImage(layer, source, rect, 255);
-  entries.push_back(Entry{key, rect.width, rect.height, std::move(layer)});
+  entries.push_back(Entry{key, rect.width, rect.height, std::move(layer), {}, false});
   size_t total = 0;
   for (const Entry& entry : entries)
     total += bytesOf(entry);

@@ -161,6 +161,20 @@ bool isInsideShape(ShapeKind kind, int32_t width, int32_t height, int32_t x, int
   }
 }
 
+bool shapeRowSpan(ShapeKind kind, int32_t width, int32_t height, int32_t y, int32_t& first,
+                  int32_t& last) {
+  if (!inRange(width, height, 0, y)) return false;
+  // Scanning in from both ends costs what the corners are wide, not the whole row.
+  first = 0;
+  while (first < width && !isInsideShape(kind, width, height, first, y))
+    ++first;
+  if (first >= width) return false;
+  last = width - 1;
+  while (last > first && !isInsideShape(kind, width, height, last, y))
+    --last;
+  return true;
+}
+
 Rect strokePenRect(const Rect& rect, int32_t width) {
   const int32_t shrink = std::max(width, 1);
   return {rect.x + width / 2, rect.y + width / 2, std::max(rect.width - shrink, 1),

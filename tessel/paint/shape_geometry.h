@@ -33,6 +33,11 @@ std::vector<Point> shapePolygon(ShapeKind kind, const Rect& rect);
 // 0..width-1 and 0..height-1 never do.
 bool isInsideShape(ShapeKind kind, int32_t width, int32_t height, int32_t x, int32_t y);
 
+// Every outline is convex along a row: the pixels of row y for which isInsideShape holds are
+// one run [first, last]. False when the row has none (or lies outside the rectangle).
+bool shapeRowSpan(ShapeKind kind, int32_t width, int32_t height, int32_t y, int32_t& first,
+                  int32_t& last);
+
 // The rectangle a GDI pen of `width` follows so that its stroke stays inside `rect`: moved in by
 // width / 2, shrunk by max(width, 1), but never below 1 on either side.
 Rect strokePenRect(const Rect& rect, int32_t width);

@@ -19,24 +19,6 @@ namespace tessel {
 
 namespace {
 
-// Every outline is convex along a row: the inside of row y is one run [first, last].
-bool rowRun(ShapeKind kind, int32_t width, int32_t height, int32_t y, int32_t& first,
-            int32_t& last) {
-  if (kind == ShapeKind::Rectangle) {
-    first = 0;
-    last = width - 1;
-    return true;
-  }
-  first = 0;
-  while (first < width && !isInsideShape(kind, width, height, first, y))
-    ++first;
-  if (first >= width) return false;
-  last = width - 1;
-  while (last > first && !isInsideShape(kind, width, height, last, y))
-    --last;
-  return true;
-}
-
 void writePremultiplied(uint8_t* p, Color color, uint32_t alpha) {
   p[0] = static_cast<uint8_t>(blueOf(color) * alpha / 255);
   p[1] = static_cast<uint8_t>(greenOf(color) * alpha / 255);
@@ -195,7 +177,7 @@ void produceGradientLayer(Image& layer, const SurfaceStyle& s, const Rect& rect)
   }
   for (int32_t y = 0; y < h; ++y) {
     int32_t first = 0, last = 0;
-    if (!rowRun(s.shape, w, h, y, first, last)) continue;
+    if (!shapeRowSpan(s.shape, w, h, y, first, last)) continue;
     uint8_t* row = layer.pixel(0, y);
     if (simple && vertical) {
       uint32_t* out = reinterpret_cast<uint32_t*>(row);

@@ -247,6 +247,40 @@ TEST(StrokeShape, ThinRingsStayClosedOnSlantedEdges) {
   }
 }
 
+// The stroke's rule written out plainly: a pixel inside the shape whose distance to some pixel
+// outside it (the frame around the rectangle counts as outside) is at most the width. The
+// rectangle lies partly off the image, so clipping is covered too.
+TEST(StrokeShape, EqualsTheDistanceRuleEverywhere) {
+  const Size kSizes[] = {{1, 1}, {2, 7}, {9, 5}, {17, 12}, {31, 23}, {12, 40}, {60, 14}};
+  for (ShapeKind kind : kAllKinds) {
+    for (const Size& size : kSizes) {
+      for (int32_t width : {1, 2, 3, 6}) {
+        const Rect rect{-3, 2, size.width, size.height};
+        Image ring = Image::blank(size.width, size.height + 1);
+        strokeShape(ring, rect, kind, kInk, width);
+        const auto inside = [&](int32_t x, int32_t y) {
+          return isInsideShape(kind, size.width, size.height, x, y);
+        };
+        for (int32_t y = 0; y < ring.height; ++y) {
+          for (int32_t x = 0; x < ring.width; ++x) {
+            const int32_t sx = x - rect.x, sy = y - rect.y;
+            bool expected = false;
+            if (inside(sx, sy)) {
+              for (int32_t oy = -1; oy <= size.height && !expected; ++oy)
+                for (int32_t ox = -1; ox <= size.width && !expected; ++ox)
+                  expected = !inside(ox, oy) &&
+                             (ox - sx) * (ox - sx) + (oy - sy) * (oy - sy) <= width * width;
+            }
+            ASSERT_EQ(ring.alphaAt(x, y) == 255, expected)
+                << int(kind) << " " << size.width << "x" << size.height << " width " << width
+                << " at " << sx << "," << sy;
+          }
+        }
+      }
+    }
+  }
+}
+
 TEST(FillShapeAlpha, PremultipliedLayerBlendedOver) {
   const Color color = rgbColor(200, 100, 50);
   const struct {

@@ -271,6 +271,27 @@ TEST(IsInsideShape, SymmetricShapesMirrorAndTheSlantsMirrorEachOther) {
   }
 }
 
+// Fills and strokes work row by row on the span; it must hold exactly the pixels the inside
+// test accepts, for every outline at every size up to 48 by 48.
+TEST(ShapeRowSpan, HoldsExactlyTheInsidePixelsOfEachRow) {
+  for (int32_t kind = 0; kind <= 8; ++kind) {
+    const ShapeKind shape = static_cast<ShapeKind>(kind);
+    for (int32_t width = 1; width <= 48; ++width) {
+      for (int32_t height = 1; height <= 48; ++height) {
+        for (int32_t y = -1; y <= height; ++y) {
+          int32_t first = -7, last = -7;
+          const bool any = shapeRowSpan(shape, width, height, y, first, last);
+          for (int32_t x = -1; x <= width; ++x) {
+            const bool want = isInsideShape(shape, width, height, x, y);
+            ASSERT_EQ(any && x >= first && x <= last, want)
+                << kind << " " << width << "x" << height << " at " << x << "," << y;
+          }
+        }
+      }
+    }
+  }
+}
+
 TEST(StrokePenRect, PenStaysInsideAndNeverCollapses) {
   const struct {
     Rect rect;
