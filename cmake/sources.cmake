@@ -32,6 +32,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   # toolkit
   tessel/core/control.cpp
   tessel/core/panel.cpp
+  tessel/core/rect_extents.cpp
   tessel/paint/alpha_bands.cpp
   tessel/paint/bitmap_surface.cpp
   tessel/paint/chrome_glyphs.cpp

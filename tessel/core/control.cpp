@@ -10,19 +10,6 @@ namespace tessel {
 
 namespace {
 
-Rect unite(const Rect& a, const Rect& b) {
-  if (a.empty()) return b;
-  if (b.empty()) return a;
-  const int32_t left = std::min(a.x, b.x);
-  const int32_t top = std::min(a.y, b.y);
-  return Rect{left, top, std::max(a.right(), b.right()) - left,
-              std::max(a.bottom(), b.bottom()) - top};
-}
-
-Rect inflate(const Rect& r, int32_t margin) {
-  return Rect{r.x - margin, r.y - margin, r.width + 2 * margin, r.height + 2 * margin};
-}
-
 template <typename E>
 void emitOn(Signal<E>& signal, E& event, Control* emitter) {
   prepareEvent(event, emitter);
@@ -125,7 +112,7 @@ std::vector<Rect> Control::contentRegions() const {
 Rect Control::geometryBounds() const {
   Rect box;
   for (const Rect& band : geometryBands(3, 1))
-    box = unite(box, band);
+    box = uniteRects(box, band);
   return box;
 }
 
@@ -416,14 +403,14 @@ const std::wstring& Control::composedTooltip() {
 Rect Control::visualRect(Point origin, int32_t margin) const {
   Rect box{origin.x + bounds_.x, origin.y + bounds_.y, bounds_.width, bounds_.height};
   if (hasFollowBounds()) {
-    box = unite(box, Rect{origin.x + followBounds_.x, origin.y + followBounds_.y,
-                          followBounds_.width, followBounds_.height});
+    box = uniteRects(box, Rect{origin.x + followBounds_.x, origin.y + followBounds_.y,
+                               followBounds_.width, followBounds_.height});
   }
   for (const Rect& span : contourSpans_) {
-    box = unite(box, Rect{origin.x + bounds_.x + span.x, origin.y + bounds_.y + span.y, span.width,
-                          span.height});
+    box = uniteRects(box, Rect{origin.x + bounds_.x + span.x, origin.y + bounds_.y + span.y,
+                               span.width, span.height});
   }
-  return inflate(box, margin);
+  return inflateRect(box, margin);
 }
 
 std::optional<Point> Control::absoluteParentOrigin() const {

@@ -1,5 +1,6 @@
 // Plain integer geometry shared by the whole toolkit: points, sizes, rectangles given by their
-// origin and size, and insets given per side. No operation here clips or normalizes on its own.
+// origin and size, and insets given per side. No operation here clips or normalizes on its own;
+// the union below only leaves empty rectangles out.
 #pragma once
 
 #include <cstdint>
@@ -39,5 +40,21 @@ struct Insets {
   int32_t bottom = 0;
   bool operator==(const Insets&) const = default;
 };
+
+// The smallest rectangle holding both; an empty one counts for nothing.
+inline Rect uniteRects(const Rect& a, const Rect& b) {
+  if (a.empty()) return b;
+  if (b.empty()) return a;
+  const int32_t left = a.x < b.x ? a.x : b.x;
+  const int32_t top = a.y < b.y ? a.y : b.y;
+  const int32_t right = a.right() > b.right() ? a.right() : b.right();
+  const int32_t bottom = a.bottom() > b.bottom() ? a.bottom() : b.bottom();
+  return Rect{left, top, right - left, bottom - top};
+}
+
+// Grown by `margin` on every side (shrunk when it is negative).
+inline Rect inflateRect(const Rect& r, int32_t margin) {
+  return Rect{r.x - margin, r.y - margin, r.width + 2 * margin, r.height + 2 * margin};
+}
 
 }  // namespace tessel

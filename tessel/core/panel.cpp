@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "tessel/core/rect_extents.h"
 #include "tessel/core/window_host.h"
 #include "tessel/paint/image_canvas.h"
 #include "tessel/paint/shape_geometry.h"
@@ -78,36 +79,6 @@ void holdMinimum(int32_t minimum, Bound bound, int32_t& position, int32_t& lengt
   length = minimum;
 }
 
-struct Extent {
-  int32_t low = 0;
-  int32_t high = 0;
-  bool any = false;
-};
-
-// For each row (or column) of `area`, the hull of the rectangles that cross it.
-std::vector<Extent> extents(const Rect& area, const std::vector<Rect>& rects, bool rows) {
-  const int32_t count = rows ? area.height : area.width;
-  std::vector<Extent> result(std::max(count, 0));
-  for (const Rect& r : rects) {
-    if (r.empty()) continue;
-    const int32_t from = rows ? std::max(r.y, area.y) : std::max(r.x, area.x);
-    const int32_t to =
-        rows ? std::min(r.bottom(), area.bottom()) : std::min(r.right(), area.right());
-    for (int32_t i = from; i < to; ++i) {
-      Extent& e = result[i - (rows ? area.y : area.x)];
-      const int32_t low = rows ? r.x : r.y;
-      const int32_t high = rows ? r.right() : r.bottom();
-      if (!e.any) {
-        e = Extent{low, high, true};
-      } else {
-        e.low = std::min(e.low, low);
-        e.high = std::max(e.high, high);
-      }
-    }
-  }
-  return result;
-}
-
 // Runs of equal cut, as bands relative to the child.
 std::vector<GeometryBand> bandsOf(const std::vector<Extent>& cuts, int32_t low, int32_t high) {
   std::vector<GeometryBand> bands;
@@ -132,8 +103,8 @@ std::vector<GeometryBand> bandsOf(const std::vector<Extent>& cuts, int32_t low, 
 template <typename Paint>
 void deformPaint(Canvas& canvas, const Rect& r, const std::vector<Rect>& spans, Paint paintInto) {
   if (r.empty() || spans.empty()) return;
-  const std::vector<Extent> rows = extents(r, spans, true);
-  const std::vector<Extent> columns = extents(r, spans, false);
+  const std::vector<Extent> rows = rectExtents(r, spans, true);
+  const std::vector<Extent> columns = rectExtents(r, spans, false);
   if (std::none_of(rows.begin(), rows.end(), [](const Extent& e) { return e.any; })) {
     paintInto(canvas, Point{0, 0});
     return;
@@ -220,7 +191,7 @@ void fitToRegions(Control& child, const std::vector<Rect>& regions, Rect) {
   }
   const Rect box = c.bounds_;
   const std::vector<Rect> previous = c.contourSpans_;
-  std::vector<Extent> rows = extents(box, regions, true);
+  std::vector<Extent> rows = rectExtents(box, regions, true);
   std::vector<Rect> spans;
   for (int32_t row = 0; row < box.height; ++row) {
     const Extent& e = rows[row];
@@ -266,7 +237,7 @@ void fitToRegions(Control& child, const std::vector<Rect>& regions, Rect) {
   }
   c.contourSpans_ = spans;
   c.rowBands_ = bandsOf(rows, box.x, box.right());
-  c.columnBands_ = bandsOf(extents(box, regions, false), box.y, box.bottom());
+  c.columnBands_ = bandsOf(rectExtents(box, regions, false), box.y, box.bottom());
   c.bandsFromRight_ = (c.anchors_ & kAnchorRight) && !(c.anchors_ & kAnchorLeft);
   c.bandsFromBottom_ = (c.anchors_ & kAnchorBottom) && !(c.anchors_ & kAnchorTop);
   if (shift.x != 0 || shift.y != 0) {

@@ -9,23 +9,6 @@
 
 namespace tessel {
 
-namespace {
-
-Rect bounding(const std::vector<Rect>& rects) {
-  int32_t left = INT32_MAX, top = INT32_MAX, right = INT32_MIN, bottom = INT32_MIN;
-  for (const Rect& r : rects) {
-    if (r.empty()) continue;
-    left = std::min(left, r.x);
-    top = std::min(top, r.y);
-    right = std::max(right, r.right());
-    bottom = std::max(bottom, r.bottom());
-  }
-  if (left >= right || top >= bottom) return Rect{};
-  return Rect{left, top, right - left, bottom - top};
-}
-
-}  // namespace
-
 int standInTextScale(int32_t pointSize) {
   return std::max(1, (pointSize + 4) / 9);
 }
@@ -60,7 +43,10 @@ void ImageCanvas::clipToRects(const std::vector<Rect>& rects) {
 }
 
 Rect ImageCanvas::clipBox() const {
-  return bounding(clip_);
+  Rect box;
+  for (const Rect& r : clip_)
+    box = uniteRects(box, r);
+  return box;
 }
 
 bool ImageCanvas::clipped(int32_t x, int32_t y) const {

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <functional>
 
+#include "tessel/core/rect_extents.h"
 #include "tessel/paint/bitmap_surface.h"
 #include "tessel/paint/gradient.h"
 #include "tessel/paint/image_canvas.h"
@@ -36,10 +37,6 @@ Color gradientColor(const SurfaceStyle& s, double t) {
 int32_t mulDiv(int32_t a, int32_t b, int32_t c) {
   const double value = double(a) * b / c;
   return static_cast<int32_t>(value < 0 ? std::ceil(value - 0.5) : std::floor(value + 0.5));
-}
-
-Rect inflate(const Rect& r, int32_t by) {
-  return Rect{r.x - by, r.y - by, r.width + 2 * by, r.height + 2 * by};
 }
 
 // A layer through the cache, or computed for this paint alone when it can't be kept or the
@@ -205,7 +202,7 @@ void drawSurface(Canvas& canvas, const Rect& rect, const SurfaceStyle& s,
   if (s.showGlow && s.glowRadius > 0 && s.glowOpacity > 0 && allowsGlow(rect, profile)) {
     const int32_t steps = std::clamp(s.glowRadius, 1, 8);
     const int32_t outer = std::max(mulDiv(s.glowRadius, steps, steps), 1);
-    const Rect area = inflate(rect, outer);
+    const Rect area = inflateRect(rect, outer);
     // The stack is composed once, then kept and blended as one layer.
     const Image& glow = shapeLayer(
         shapeKey(3, s.shape, s.glow, uint64_t(s.glowOpacity), uint64_t(s.glowRadius)), area.width,
@@ -282,42 +279,23 @@ void drawSurface(Canvas& canvas, const Rect& rect, const SurfaceStyle& s,
 void drawSegmentedSurface(Canvas& canvas, const std::vector<Rect>& segments,
                           const SurfaceStyle& style, UiPerformanceProfile profile) {
   Rect box;
-  for (const Rect& segment : segments) {
-    if (segment.empty()) continue;
-    if (box.empty()) {
-      box = segment;
-      continue;
-    }
-    const int32_t left = std::min(box.x, segment.x), top = std::min(box.y, segment.y);
-    box = Rect{left, top, std::max(box.right(), segment.right()) - left,
-               std::max(box.bottom(), segment.bottom()) - top};
-  }
+  for (const Rect& segment : segments)
+    box = uniteRects(box, segment);
   if (box.empty()) return;
   // Tall bodies are stacks of row spans, wide ones rows of column spans.
   const bool rows = box.height >= box.width;
   const int32_t lines = rows ? box.height : box.width;
-  std::vector<std::pair<int32_t, int32_t>> spans(lines, {INT32_MAX, INT32_MIN});
-  for (const Rect& segment : segments) {
-    if (segment.empty()) continue;
-    const int32_t from = rows ? segment.y - box.y : segment.x - box.x;
-    const int32_t count = rows ? segment.height : segment.width;
-    const int32_t start = rows ? segment.x : segment.y;
-    const int32_t end = rows ? segment.right() : segment.bottom();
-    for (int32_t i = from; i < from + count; ++i) {
-      spans[i].first = std::min(spans[i].first, start);
-      spans[i].second = std::max(spans[i].second, end);
-    }
-  }
+  const std::vector<Extent> spans = rectExtents(box, segments, rows);
   int32_t longest = 0;
-  for (const auto& span : spans)
-    if (span.first < span.second) longest = std::max(longest, span.second - span.first);
+  for (const Extent& span : spans)
+    if (span.any) longest = std::max(longest, span.high - span.low);
   if (longest == 0) return;
   const Size straight = rows ? Size{longest, box.height} : Size{box.width, longest};
   Image buffer = Image::blank(straight.width, straight.height);
   // The destination's background travels along, so a translucent surface blends as it would.
   for (int32_t i = 0; i < lines; ++i) {
-    const auto& [start, end] = spans[i];
-    if (start >= end) continue;
+    if (!spans[i].any) continue;
+    const int32_t start = spans[i].low, end = spans[i].high;
     const Rect from =
         rows ? Rect{start, box.y + i, end - start, 1} : Rect{box.x + i, start, 1, end - start};
     const Image pixels = canvas.copyPixels(from);
@@ -329,8 +307,8 @@ void drawSegmentedSurface(Canvas& canvas, const std::vector<Rect>& segments,
     drawSurface(into, Rect{0, 0, straight.width, straight.height}, style, profile);
   }
   for (int32_t i = 0; i < lines; ++i) {
-    const auto& [start, end] = spans[i];
-    if (start >= end) continue;
+    if (!spans[i].any) continue;
+    const int32_t start = spans[i].low, end = spans[i].high;
     if (rows) {
       canvas.putPixels(buffer, Rect{0, i, end - start, 1}, Point{start, box.y + i});
     } else {

@@ -69,19 +69,25 @@ bool ReadPamImage(const std::filesystem::path& path, tessel::Image& image) {
   return true;
 }
 
-::testing::AssertionResult MatchesGoldenImage(const tessel::Image& image,
-                                              const std::string& relative, int tolerance) {
+::testing::AssertionResult MatchesGoldenFile(const tessel::Image& image,
+                                             const std::string& relative, int tolerance,
+                                             const GoldenWriter& write, const GoldenReader& read) {
   const std::filesystem::path path = SourceFile(relative);
   if (RegeneratingGoldenImages()) {
-    if (!WritePamImage(path, image))
+    if (!write(path, image))
       return ::testing::AssertionFailure() << "cannot write " << path.string();
     return ::testing::AssertionSuccess();
   }
   tessel::Image expected;
-  if (!ReadPamImage(path, expected))
+  if (!read(path, expected))
     return ::testing::AssertionFailure()
            << "cannot read " << path.string() << " (regenerate with STAYHOLD_REGENERATE_GOLDEN=1)";
   return CompareImages(image, expected, relative, tolerance);
+}
+
+::testing::AssertionResult MatchesGoldenImage(const tessel::Image& image,
+                                              const std::string& relative, int tolerance) {
+  return MatchesGoldenFile(image, relative, tolerance, WritePamImage, ReadPamImage);
 }
 
 ::testing::AssertionResult CompareImages(const tessel::Image& image, const tessel::Image& expected,

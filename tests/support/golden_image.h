@@ -27,6 +27,13 @@ bool ReadPamImage(const std::filesystem::path& path, tessel::Image& image);
 ::testing::AssertionResult MatchesGoldenPng(const tessel::Image& image, const std::string& relative,
                                             int tolerance);
 
+// The comparison behind both: the fixture is read and written by the given functions.
+using GoldenWriter = bool (*)(const std::filesystem::path&, const tessel::Image&);
+using GoldenReader = bool (*)(const std::filesystem::path&, tessel::Image&);
+::testing::AssertionResult MatchesGoldenFile(const tessel::Image& image,
+                                             const std::string& relative, int tolerance,
+                                             const GoldenWriter& write, const GoldenReader& read);
+
 // Compares two images channel by channel; `label` names the image in a failure.
 ::testing::AssertionResult CompareImages(const tessel::Image& image, const tessel::Image& expected,
                                          const std::string& label, int tolerance);
