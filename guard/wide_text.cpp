@@ -1,6 +1,7 @@
 #include "guard/wide_text.h"
 
 #include <cstdint>
+#include <cwchar>
 #include <cwctype>
 
 bool IsWhiteSpace(wchar_t c) {
@@ -8,6 +9,18 @@ bool IsWhiteSpace(wchar_t c) {
   const uint32_t code = static_cast<uint32_t>(c);
   return code == 0x85 || code == 0xA0 || code == 0x1680 || (code >= 0x2000 && code <= 0x200A) ||
          code == 0x2028 || code == 0x2029 || code == 0x202F || code == 0x205F || code == 0x3000;
+}
+
+bool ParseLeadingInt32(const std::wstring& text, int32_t& value) {
+  const wchar_t* begin = text.c_str();
+  wchar_t* end = nullptr;
+  // A 32-bit long saturates where a 64-bit one wouldn't; clamp to read alike everywhere.
+  const long long number = std::wcstoll(begin, &end, 10);
+  if (end == begin) return false;
+  value = number > INT32_MAX   ? INT32_MAX
+          : number < INT32_MIN ? INT32_MIN
+                               : static_cast<int32_t>(number);
+  return true;
 }
 
 int HexDigitValue(wchar_t c) {

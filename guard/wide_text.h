@@ -1,6 +1,7 @@
 // Small helpers over wide (UTF-16 on Windows) text that several subsystems share.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 // White space as Windows' iswspace sees it: the C runtime's set plus the Unicode spaces, which
@@ -26,6 +27,10 @@ bool WideFromUtf8Strict(const std::string& bytes, std::wstring& text);
 
 // The value of one hexadecimal digit of either case, or -1.
 int HexDigitValue(wchar_t c);
+
+// The leading decimal number of `text` as wcstol reads it (white space, sign, digits, the rest
+// ignored), saturated at 32 bits on every platform. False when there is no number.
+bool ParseLeadingInt32(const std::wstring& text, int32_t& value);
 
 // Decimal digits of an unsigned value.
 std::wstring DecimalText(unsigned long long value);

@@ -8,16 +8,6 @@
 
 namespace tessel {
 
-namespace {
-
-int32_t clampToInt32(long long value) {
-  if (value > INT32_MAX) return INT32_MAX;
-  if (value < INT32_MIN) return INT32_MIN;
-  return static_cast<int32_t>(value);
-}
-
-}  // namespace
-
 const JsonValue* findMember(const JsonValue& value, Aliases aliases) {
   if (!value.isObject()) return nullptr;
   for (const wchar_t* alias : aliases) {
@@ -40,12 +30,8 @@ int32_t intOr(const JsonValue* value, int32_t fallback) {
     return static_cast<int32_t>(truncated);
   }
   if (value->kind == JsonValue::Kind::String) {
-    const wchar_t* begin = value->text.c_str();
-    wchar_t* end = nullptr;
-    // A 32-bit long saturates where a 64-bit one wouldn't; clamp to read alike everywhere.
-    const long long number = std::wcstoll(begin, &end, 10);
-    if (end == begin) return fallback;
-    return clampToInt32(number);
+    int32_t number = 0;
+    return ParseLeadingInt32(value->text, number) ? number : fallback;
   }
   return fallback;
 }

@@ -1,5 +1,6 @@
 #include "tessel/skin/style_reader.h"
 
+#include <algorithm>
 #include <cwchar>
 #include <vector>
 
@@ -20,13 +21,13 @@ std::vector<std::wstring> splitStyleList(const std::wstring& text) {
 }
 
 bool parseStyleInteger(const std::wstring& text, int32_t& value) {
-  const wchar_t* begin = text.c_str();
-  wchar_t* end = nullptr;
-  const long long number = std::wcstoll(begin, &end, 10);
-  if (end == begin) return false;
-  value = number > INT32_MAX   ? INT32_MAX
-          : number < INT32_MIN ? INT32_MIN
-                               : static_cast<int32_t>(number);
+  return ParseLeadingInt32(text, value);
+}
+
+bool parseStyleByte(const std::wstring& text, uint8_t& value) {
+  int32_t number = 0;
+  if (!parseStyleInteger(text, number)) return false;
+  value = static_cast<uint8_t>(std::clamp(number, 0, 255));
   return true;
 }
 
@@ -34,11 +35,9 @@ bool parseStyleColor(const std::wstring& text, Color& color) {
   if (parseHexColor(text, color)) return true;
   const std::vector<std::wstring> parts = splitStyleList(text);
   if (parts.size() != 3) return false;
-  int32_t channels[3] = {0, 0, 0};
-  for (int i = 0; i < 3; ++i) {
-    if (!parseStyleInteger(parts[i], channels[i])) return false;
-    channels[i] = channels[i] < 0 ? 0 : channels[i] > 255 ? 255 : channels[i];
-  }
+  uint8_t channels[3] = {0, 0, 0};
+  for (int i = 0; i < 3; ++i)
+    if (!parseStyleByte(parts[i], channels[i])) return false;
   color = rgbColor(channels[0], channels[1], channels[2]);
   return true;
 }
@@ -130,10 +129,7 @@ void StyleReader::integer(std::initializer_list<const wchar_t*> names, int32_t& 
 
 void StyleReader::byte(std::initializer_list<const wchar_t*> names, uint8_t& value) const {
   for (const wchar_t* name : names) {
-    int32_t number = 0;
-    if (const std::wstring* text = find(name); text && parseStyleInteger(*text, number)) {
-      value = static_cast<uint8_t>(number < 0 ? 0 : number > 255 ? 255 : number);
-    }
+    if (const std::wstring* text = find(name)) parseStyleByte(*text, value);
   }
 }
 

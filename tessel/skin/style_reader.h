@@ -28,6 +28,8 @@ std::vector<std::wstring> splitStyleList(const std::wstring& text);
 bool parseStyleColor(const std::wstring& text, Color& color);
 // The base-10 prefix of the text, as wcstol reads it, clamped to 32 bits.
 bool parseStyleInteger(const std::wstring& text, int32_t& value);
+// An integer clamped to 0..255.
+bool parseStyleByte(const std::wstring& text, uint8_t& value);
 // A number, or thin/light/normal/regular/medium/semibold/demibold/bold/heavy/black.
 bool parseFontWeight(const std::wstring& text, int32_t& weight);
 // true/1/yes/on and false/0/no/off after trimming and lower-casing.

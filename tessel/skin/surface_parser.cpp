@@ -357,19 +357,11 @@ void parseBitmapTint(const StyleReader& reader, BitmapTint& tint) {
   if (const std::wstring* text =
           firstPresent(reader, {L"amount", L"opacity", L"tintAmount", L"tintOpacity",
                                 L"tint.amount", L"tint.opacity"})) {
-    int32_t amount = 0;
-    if (parseStyleInteger(*text, amount)) {
-      tint.amount = static_cast<uint8_t>(amount < 0 ? 0 : amount > 255 ? 255 : amount);
-    }
+    parseStyleByte(*text, tint.amount);
   }
   if (const std::wstring* text = firstPresent(
           reader, {L"coverageThreshold", L"tintCoverageThreshold", L"tint.coverageThreshold"})) {
-    int32_t threshold = 0;
-    if (parseStyleInteger(*text, threshold)) {
-      tint.coverageThreshold = static_cast<uint8_t>(threshold < 0     ? 0
-                                                    : threshold > 255 ? 255
-                                                                      : threshold);
-    }
+    parseStyleByte(*text, tint.coverageThreshold);
   }
   if (const std::wstring* text = firstPresent(
           reader, {L"preserveLuminance", L"tintPreserveLuminance", L"tint.preserveLuminance"})) {

@@ -87,4 +87,28 @@ TEST(WideFromUtf8Strict, AcceptsValidAndRefusesEveryMalformation) {
   }
 }
 
+TEST(ParseLeadingInt32, ReadsTheLeadingNumberAndSaturates) {
+  struct Case {
+    const wchar_t* text;
+    bool found;
+    int32_t value;
+  };
+  const Case cases[] = {
+      {L"12abc", true, 12},
+      {L"  -7", true, -7},
+      {L"+5", true, 5},
+      {L"99999999999", true, INT32_MAX},
+      {L"-99999999999", true, INT32_MIN},
+      {L"2147483647", true, INT32_MAX},
+      {L"x1", false, 42},
+      {L"", false, 42},
+      {L"-", false, 42},
+  };
+  for (const Case& c : cases) {
+    int32_t value = 42;
+    EXPECT_EQ(ParseLeadingInt32(c.text, value), c.found) << Utf8FromWide(c.text);
+    EXPECT_EQ(value, c.value) << Utf8FromWide(c.text);
+  }
+}
+
 }  // namespace
