@@ -48,6 +48,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/material_layers_avx2.cpp
   tessel/paint/material_noise.cpp
   tessel/paint/material_shading.cpp
+  tessel/paint/private_fonts.cpp
   tessel/paint/sample_space.cpp
   tessel/paint/shape_fill.cpp
   tessel/paint/shape_geometry.cpp
@@ -85,6 +86,7 @@ set(STAYHOLD_PORTABLE_WIN32_SOURCES
 # The thin Windows layer beside them.
 set(STAYHOLD_WIN32_SOURCES
   tessel/paint/gdi_canvas_win32.cpp
+  tessel/paint/private_fonts_win32.cpp
   guard/app_icon_win32.cpp
   guard/file_system_win32.cpp
   guard/hidden_window_win32.cpp

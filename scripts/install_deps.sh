@@ -8,7 +8,7 @@ packages=(
   googletest libgtest-dev libbenchmark-dev libcairo2-dev zlib1g-dev
   g++-mingw-w64-x86-64-posix mingw-w64-tools binutils-mingw-w64-x86-64
   wine wine64 msitools wixl
-  xvfb xdotool imagemagick x11-utils
+  xvfb xdotool imagemagick x11-utils fonts-dejavu-core
   clang-format clang libclang-rt-14-dev openssl
 )
 

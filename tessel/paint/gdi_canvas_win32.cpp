@@ -2,6 +2,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
+#include <mutex>
+#include <tuple>
+
+#include "tessel/paint/private_fonts_win32.h"
 
 namespace tessel {
 
@@ -19,6 +24,29 @@ HBITMAP sectionOf(HDC dc, int32_t width, int32_t height, void** bits) {
   return CreateDIBSection(dc, &info, DIB_RGB_COLORS, bits, nullptr, 0);
 }
 
+// The process's fonts, kept until exit: canvases are made for every paint, and a UI uses a
+// handful of styles. The height depends on the device's DPI, so the DPI joins the style in the
+// key.
+HFONT sharedFont(const TextStyle& style, int dpi) {
+  using Key = std::tuple<std::wstring, int32_t, int32_t, bool, bool, int>;
+  static std::mutex lock;
+  static auto* fonts = new std::map<Key, HFONT>();
+  const std::lock_guard<std::mutex> hold(lock);
+  const Key key{style.fontFamily, style.pointSize, style.weight,
+                style.italic,     style.underline, dpi};
+  if (auto found = fonts->find(key); found != fonts->end()) return found->second;
+  // The private fonts must be in place before the first font is mapped to a face: a mapping once
+  // made is kept (Wine keeps it even after fonts are added).
+  ensurePrivateFontsLoaded();
+  // Point sizes become pixels at the device's DPI; negative heights ask for the em height.
+  const int height = -MulDiv(style.pointSize, dpi, 72);
+  HFONT font = CreateFontW(height, 0, 0, 0, style.weight, style.italic, style.underline, FALSE,
+                           DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                           CLEARTYPE_QUALITY, DEFAULT_PITCH, style.fontFamily.c_str());
+  if (font != nullptr) (*fonts)[key] = font;
+  return font;
+}
+
 }  // namespace
 
 GdiCanvas::GdiCanvas(HDC dc, Size size) : dc_(dc), size_(size) {}
@@ -26,8 +54,6 @@ GdiCanvas::GdiCanvas(HDC dc, Size size) : dc_(dc), size_(size) {}
 GdiCanvas::~GdiCanvas() {
   while (!saved_.empty())
     restore();
-  for (auto& [key, font] : fonts_)
-    DeleteObject(font);
 }
 
 Size GdiCanvas::size() const {
@@ -129,16 +155,7 @@ void GdiCanvas::putPixels(const Image& image, const Rect& source, Point target) 
 }
 
 HFONT GdiCanvas::fontFor(const TextStyle& style) const {
-  const auto key = std::make_tuple(style.fontFamily, style.pointSize, style.weight, style.italic,
-                                   style.underline);
-  if (auto found = fonts_.find(key); found != fonts_.end()) return found->second;
-  // Point sizes become pixels at the device's DPI; negative heights ask for the em height.
-  const int height = -MulDiv(style.pointSize, GetDeviceCaps(dc_, LOGPIXELSY), 72);
-  HFONT font = CreateFontW(height, 0, 0, 0, style.weight, style.italic, style.underline, FALSE,
-                           DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
-                           CLEARTYPE_QUALITY, DEFAULT_PITCH, style.fontFamily.c_str());
-  fonts_[key] = font;
-  return font;
+  return sharedFont(style, GetDeviceCaps(dc_, LOGPIXELSY));
 }
 
 Size GdiCanvas::measureText(const std::wstring& text, const TextStyle& style) const {

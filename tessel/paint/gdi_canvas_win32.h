@@ -1,12 +1,12 @@
 // The canvas of the Windows build: a device context (a window's back buffer, a memory bitmap)
 // behind the painter's seam. Images are blended with AlphaBlend, text goes through GDI fonts
-// made from the text style at the device's DPI and kept for the canvas's life.
+// made from the text style at the device's DPI, shared by every canvas and kept until exit.
+// The first font made loads the program's private fonts (private_fonts_win32.h).
 #pragma once
 
 #include <windows.h>
 
-#include <map>
-#include <tuple>
+#include <vector>
 
 #include "tessel/paint/canvas.h"
 
@@ -39,7 +39,6 @@ class GdiCanvas : public Canvas {
   HDC dc_;
   Size size_;
   std::vector<int> saved_;
-  mutable std::map<std::tuple<std::wstring, int32_t, int32_t, bool, bool>, HFONT> fonts_;
 };
 
 }  // namespace tessel
