@@ -33,6 +33,8 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/core/control.cpp
   tessel/core/panel.cpp
   tessel/core/rect_extents.cpp
+  tessel/core/window.cpp
+  tessel/core/window_frame.cpp
   tessel/paint/alpha_bands.cpp
   tessel/paint/bitmap_surface.cpp
   tessel/paint/chrome_glyphs.cpp

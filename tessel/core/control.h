@@ -261,6 +261,7 @@ class Control {
 
  protected:
   friend class Panel;
+  friend class Window;
   friend void applyLayout(Control& child, Rect parentContent);
   friend void fitToRegions(Control& child, const std::vector<Rect>& regions, Rect parentContent);
   friend Size minimumParentSizeHint(const Control& child);
