@@ -89,6 +89,7 @@ set(STAYHOLD_PORTABLE_WIN32_SOURCES
 set(STAYHOLD_WIN32_SOURCES
   tessel/paint/gdi_canvas_win32.cpp
   tessel/paint/private_fonts_win32.cpp
+  tessel/core/window_win32.cpp
   guard/app_icon_win32.cpp
   guard/file_system_win32.cpp
   guard/hidden_window_win32.cpp
