@@ -62,7 +62,9 @@ void Window::setBackground(Color colour) {
 }
 
 void Window::setWindowStyle(const WindowStyle& style) {
+  const bool frameChanged = style.customFrame != windowStyle_.customFrame;
   windowStyle_ = style;
+  if (frameChanged && platform_ != nullptr) platform_->frameChanged();
   updateRegion();
   invalidateAllNow();
 }
@@ -168,7 +170,9 @@ void Window::moved() {
 }
 
 void Window::deactivated() {
-  if (closeOnDeactivate_) close();
+  if (!closeOnDeactivate_) return;
+  if (platform_ != nullptr) platform_->hide();
+  close();
 }
 
 void Window::appDeactivated() {
@@ -395,6 +399,17 @@ void Window::paintFrame(Canvas& canvas, const Rect& dirty) {
   root_.paintAttachedOverlays(canvas, Point{});
   paintWindowOverlay(canvas, client);
   paintTooltip(canvas);
+  if (diagnosticsSink_) {
+    // The software path is the only one yet: effective gdi whatever was asked for.
+    RenderDiagnostics diagnostics;
+    diagnostics.requested = renderMode_;
+    diagnostics.profile = paintProfile();
+    std::wstring line = renderDiagnosticsLine(diagnostics);
+    if (line != lastDiagnostics_) {
+      lastDiagnostics_ = line;
+      diagnosticsSink_(lastDiagnostics_);
+    }
+  }
 }
 
 void Window::paintTooltip(Canvas& canvas) {

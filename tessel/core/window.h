@@ -61,6 +61,12 @@ class Window : public WindowHost {
     tooltipActionHandler_ = std::move(handler);
   }
   void setCloseOnDeactivate(bool on) { closeOnDeactivate_ = on; }
+  void setRenderMode(RenderMode mode) { renderMode_ = mode; }
+  RenderMode renderMode() const { return renderMode_; }
+  // Receives the render diagnostics line after a paint whenever it differs from the last one.
+  void setDiagnosticsSink(std::function<void(const std::wstring&)> sink) {
+    diagnosticsSink_ = std::move(sink);
+  }
   void close();
 
   // The theme handler, then the tree's themeChanged, then a fresh layout.
@@ -140,6 +146,9 @@ class Window : public WindowHost {
   std::function<void(Size)> resizeHandler_;
   std::function<void(Window&)> themeChangedHandler_;
   std::function<void(const Control&, const TooltipAction&)> tooltipActionHandler_;
+  std::function<void(const std::wstring&)> diagnosticsSink_;
+  std::wstring lastDiagnostics_;
+  RenderMode renderMode_ = RenderMode::Auto;
   Size minimumClientSize_;
   Size client_;
   bool hasClientSize_ = false;

@@ -24,6 +24,10 @@ class WindowPlatform {
   // Whether a mouse button is held right now.
   virtual bool buttonHeld() const = 0;
   virtual void postClose() = 0;
+  // Hides the window (a popup closing on deactivation goes at once).
+  virtual void hide() {}
+  // The frame changed (a skin with or without a custom frame): the system recomputes it.
+  virtual void frameChanged() {}
   // The window's shape: the union of `rects` in client coordinates, or no region at all.
   virtual void setRegion(const std::vector<Rect>& rects, bool shaped) = 0;
 };

@@ -399,6 +399,16 @@ void Win32WindowPlatform::postClose() {
   if (hwnd_ != nullptr) PostMessageW(hwnd_, WM_CLOSE, 0, 0);
 }
 
+void Win32WindowPlatform::hide() {
+  if (hwnd_ != nullptr) ShowWindow(hwnd_, SW_HIDE);
+}
+
+void Win32WindowPlatform::frameChanged() {
+  if (hwnd_ == nullptr) return;
+  SetWindowPos(hwnd_, nullptr, 0, 0, 0, 0,
+               SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 void Win32WindowPlatform::setRegion(const std::vector<Rect>& rects, bool shaped) {
   if (hwnd_ == nullptr) return;
   if (!shaped || rects.empty()) {

@@ -55,6 +55,8 @@ class Win32WindowPlatform : public WindowPlatform {
   uint64_t tickMs() const override;
   bool buttonHeld() const override;
   void postClose() override;
+  void hide() override;
+  void frameChanged() override;
   void setRegion(const std::vector<Rect>& rects, bool shaped) override;
 
   static constexpr UINT_PTR kTimerId = 1201;

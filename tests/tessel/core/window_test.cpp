@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "tessel/paint/image_canvas.h"
+#include "tests/tessel/core/test_controls.h"
 #include "tessel/paint/shape_geometry.h"
+#include "tessel/paint/surface_painter.h"
 
 namespace tessel {
 namespace {
@@ -291,6 +293,58 @@ TEST_F(WindowTest, RegionFollowsTheSkinsShapes) {
   style.customFrame = false;
   window.setWindowStyle(style);
   EXPECT_FALSE(platform.hasRegion);
+}
+
+// While the user drags the window, glow and shadow are left out; the repaint after the move
+// brings them back.
+TEST_F(WindowTest, NoGlowWhileTheWindowIsDragged) {
+  WindowStyle style;
+  style.drawSurface = false;
+  window.setWindowStyle(style);
+  class Glowing : public Control {
+   public:
+    using Control::Control;
+    void paint(Canvas& canvas, Point origin) override {
+      SurfaceStyle s;
+      s.drawFill = s.drawBorder = false;
+      s.showGlow = true;
+      s.glowRadius = 6;
+      s.glowOpacity = 200;
+      s.glow = rgbColor(255, 255, 255);
+      drawSurface(canvas, Rect{origin.x + bounds().x, origin.y + bounds().y, 40, 20}, s);
+    }
+  };
+  window.rootPanel().add<Glowing>(L"glow", Rect{300, 200, 40, 20});
+  window.relayout();
+  const auto glowAt = [&](bool dragging) {
+    if (dragging) window.enterSizeMove();
+    Image frame = Image::blank(400, 300);
+    ImageCanvas canvas(frame);
+    window.paintFrame(canvas, Rect{0, 0, 400, 300});
+    if (dragging) window.exitSizeMove();
+    return PixelAt(frame, 297, 210);  // three pixels left of the surface
+  };
+  const Color ground = glowAt(true);
+  EXPECT_EQ(ground, rgbColor(0x09, 0x11, 0x12));  // the background, untouched
+  EXPECT_NE(glowAt(false), ground);
+}
+
+TEST_F(WindowTest, DiagnosticsLineAfterAPaintOnlyWhenItChanges) {
+  std::vector<std::wstring> lines;
+  window.setUiPerformanceProfile(1);
+  window.setDiagnosticsSink([&](const std::wstring& line) { lines.push_back(line); });
+  Image frame = Image::blank(400, 300);
+  ImageCanvas canvas(frame);
+  window.paintFrame(canvas, Rect{0, 0, 400, 300});
+  window.paintFrame(canvas, Rect{0, 0, 10, 10});
+  ASSERT_EQ(lines.size(), 1u);
+  EXPECT_EQ(lines[0],
+            L"tessel render diagnostics: requested=auto effective=gdi direct2d_active=0 "
+            L"profile=balanced d2d_native_surfaces=0 d2d_native_shaders=0 d2d_hlsl_effects=0");
+  window.enterSizeMove();
+  window.paintFrame(canvas, Rect{0, 0, 400, 300});
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_NE(lines[1].find(L"profile=maximum-performance"), std::wstring::npos);
 }
 
 TEST(ShapeRegionRects, CoverExactlyTheInsidePixels) {
