@@ -33,6 +33,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/core/control.cpp
   tessel/core/panel.cpp
   tessel/core/rect_extents.cpp
+  tessel/core/dialog_window.cpp
   tessel/core/window.cpp
   tessel/core/window_frame.cpp
   tessel/paint/alpha_bands.cpp
@@ -90,6 +91,7 @@ set(STAYHOLD_WIN32_SOURCES
   tessel/paint/gdi_canvas_win32.cpp
   tessel/paint/private_fonts_win32.cpp
   tessel/core/window_win32.cpp
+  tessel/core/dialog_window_win32.cpp
   guard/app_icon_win32.cpp
   guard/file_system_win32.cpp
   guard/hidden_window_win32.cpp

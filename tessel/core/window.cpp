@@ -296,9 +296,10 @@ void Window::buttonReleased(Point point, uint32_t keyState) {
   pressed_ = nullptr;
   if (platform_ != nullptr) platform_->releaseCapture();
   Control* over = root_.hitTest(point, Point{});
-  if (over == pressed && !taken) pressed->clicked();
   setHotControl(over);
   invalidateAllNow();
+  // Last: a click may end the dialog or rebuild the tree, so nothing is touched after it.
+  if (over == pressed && !taken) pressed->clicked();
 }
 
 bool Window::wheel(Point point, int32_t delta, bool horizontal, uint32_t keyState) {

@@ -37,6 +37,13 @@ Rect centreOnWorkArea(Size size, const Rect& work) {
   return keepInsideWorkArea(centred, work);
 }
 
+Rect centreOnOwner(Size size, const Rect* owner, const Rect& work) {
+  const Rect& around = owner != nullptr ? *owner : work;
+  const Rect centred{around.x + (around.width - size.width) / 2,
+                     around.y + (around.height - size.height) / 2, size.width, size.height};
+  return keepInsideWorkArea(centred, work);
+}
+
 Size effectiveMinimumClientSize(Size configured, Size content, bool automatic) {
   Size minimum = configured;
   if (automatic) {

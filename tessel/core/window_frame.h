@@ -35,6 +35,10 @@ Rect keepInsideWorkArea(const Rect& window, const Rect& workArea);
 // A window of `size` centred on `workArea`, then kept inside it.
 Rect centreOnWorkArea(Size size, const Rect& workArea);
 
+// A dialog's window of `size` centred on its owner's rectangle (on the work area when there is
+// no owner), then kept inside the work area.
+Rect centreOnOwner(Size size, const Rect* owner, const Rect& workArea);
+
 // The client minimum that holds: the configured one, raised to the content's demand when
 // `automatic`; zero in each direction where both are below 1.
 Size effectiveMinimumClientSize(Size configured, Size content, bool automatic);

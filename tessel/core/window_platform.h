@@ -24,6 +24,8 @@ class WindowPlatform {
   // Whether a mouse button is held right now.
   virtual bool buttonHeld() const = 0;
   virtual void postClose() = 0;
+  // Destroys the window now (a dialog that ends).
+  virtual void destroy() {}
   // Hides the window (a popup closing on deactivation goes at once).
   virtual void hide() {}
   // The frame changed (a skin with or without a custom frame): the system recomputes it.

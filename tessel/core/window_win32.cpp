@@ -170,6 +170,10 @@ LRESULT Win32WindowPlatform::handle(UINT message, WPARAM wParam, LPARAM lParam) 
     case WM_PAINT:
       paint();
       return 0;
+    case WM_PRINTCLIENT:
+      // Printing (thumbnails, captures) gets a whole frame from the back buffer.
+      printInto(reinterpret_cast<HDC>(wParam));
+      return 0;
     case WM_ERASEBKGND:
       return 1;
     case WM_SETTINGCHANGE:
@@ -297,6 +301,20 @@ void Win32WindowPlatform::paint() {
   EndPaint(hwnd_, &ps);
 }
 
+void Win32WindowPlatform::printInto(HDC target) {
+  RECT client{};
+  GetClientRect(hwnd_, &client);
+  const Size size{client.right, client.bottom};
+  if (target == nullptr || size.width < 1 || size.height < 1) return;
+  ensureBackBuffer(size);
+  if (bufferDc_ == nullptr) return;
+  {
+    GdiCanvas canvas(bufferDc_, size);
+    window_.paintFrame(canvas, Rect{0, 0, size.width, size.height});
+  }
+  BitBlt(target, 0, 0, size.width, size.height, bufferDc_, 0, 0, SRCCOPY);
+}
+
 bool Win32WindowPlatform::ensureBackBuffer(Size size) {
   if (bufferDc_ != nullptr && bufferSize_ == size) return false;
   freeBackBuffer();
@@ -397,6 +415,10 @@ bool Win32WindowPlatform::buttonHeld() const {
 
 void Win32WindowPlatform::postClose() {
   if (hwnd_ != nullptr) PostMessageW(hwnd_, WM_CLOSE, 0, 0);
+}
+
+void Win32WindowPlatform::destroy() {
+  if (hwnd_ != nullptr) DestroyWindow(hwnd_);
 }
 
 void Win32WindowPlatform::hide() {

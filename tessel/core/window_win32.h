@@ -56,8 +56,12 @@ class Win32WindowPlatform : public WindowPlatform {
   bool buttonHeld() const override;
   void postClose() override;
   void hide() override;
+  void destroy() override;
   void frameChanged() override;
   void setRegion(const std::vector<Rect>& rects, bool shaped) override;
+
+  // The effective minimum client size as a window size (zero where there is none).
+  Size minimumWindowSize() const;
 
   static constexpr UINT_PTR kTimerId = 1201;
 
@@ -65,10 +69,9 @@ class Win32WindowPlatform : public WindowPlatform {
   static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
   void paint();
+  void printInto(HDC target);
   bool ensureBackBuffer(Size size);
   void freeBackBuffer();
-  // The effective minimum client size as a window size (zero where there is none).
-  Size minimumWindowSize() const;
   void keepOnMonitor();
 
   Window& window_;

@@ -45,6 +45,16 @@ TEST(WindowPlacement, CentredAndKeptInsideTheWorkArea) {
   EXPECT_EQ(keepInsideWorkArea(Rect{1800, 0, 300, 200}, work), (Rect{1920, 40, 300, 200}));
 }
 
+TEST(WindowPlacement, DialogsCentreOnTheirOwner) {
+  const Rect work{0, 0, 1280, 760};
+  const Rect owner{100, 100, 600, 400};
+  EXPECT_EQ(centreOnOwner(Size{200, 100}, &owner, work), (Rect{300, 250, 200, 100}));
+  EXPECT_EQ(centreOnOwner(Size{200, 100}, nullptr, work), (Rect{540, 330, 200, 100}));
+  // An owner near the edge: the dialog stays on the work area.
+  const Rect corner{1100, 650, 200, 150};
+  EXPECT_EQ(centreOnOwner(Size{400, 300}, &corner, work), (Rect{880, 460, 400, 300}));
+}
+
 TEST(MinimumSize, ConfiguredRaisedByContentOnlyWhenAutomatic) {
   EXPECT_EQ(effectiveMinimumClientSize({300, 0}, {420, 180}, true), (Size{420, 180}));
   EXPECT_EQ(effectiveMinimumClientSize({300, 0}, {420, 180}, false), (Size{300, 0}));
