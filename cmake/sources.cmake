@@ -34,8 +34,22 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/core/panel.cpp
   tessel/core/rect_extents.cpp
   tessel/core/dialog_window.cpp
+  tessel/core/system_move.cpp
+  tessel/core/tooltip_path.cpp
   tessel/core/window.cpp
   tessel/core/window_frame.cpp
+  tessel/controls/bitmap_button.cpp
+  tessel/controls/card.cpp
+  tessel/controls/check_box.cpp
+  tessel/controls/inline_markup.cpp
+  tessel/controls/label.cpp
+  tessel/controls/progress_bar.cpp
+  tessel/controls/status_chip.cpp
+  tessel/controls/surface_bands.cpp
+  tessel/controls/text_fit.cpp
+  tessel/controls/themed_button.cpp
+  tessel/controls/themed_panel.cpp
+  tessel/controls/chrome_title_bar.cpp
   tessel/paint/alpha_bands.cpp
   tessel/paint/bitmap_surface.cpp
   tessel/paint/chrome_glyphs.cpp
@@ -46,6 +60,8 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/pixel_blend.cpp
   tessel/paint/layer_cache.cpp
   tessel/paint/layer_runs.cpp
+  tessel/paint/line_raster.cpp
+  tessel/paint/text_ellipsis.cpp
   tessel/paint/material_kind.cpp
   tessel/paint/material_layers.cpp
   tessel/paint/material_layers_avx2.cpp

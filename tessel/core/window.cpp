@@ -203,7 +203,8 @@ void Window::setHotControl(Control* control) {
   hot_ = control;
   if (hot_ != nullptr) hot_->setHot(true);
   hoverStartMs_ = now();
-  hideTooltip();
+  // A pinned tooltip (shown and interactive) outlives the hot control.
+  if (!(interactiveTooltip() && tooltipPath_.pinned)) hideTooltip();
   invalidateAllNow();
 }
 
@@ -245,7 +246,18 @@ void Window::pointerMoved(Point point, uint32_t keyState) {
     invalidateAllNow();
     return;
   }
-  setHotControl(root_.hitTest(point, Point{}));
+  Control* hit = root_.hitTest(point, Point{});
+  if (interactiveTooltip()) {
+    // On the owner the tooltip simply stays; on the way to it, as the path rule says.
+    pointerOnOwner_ = hit == tooltipOwner_ && !tooltipRect_.contains(point.x, point.y);
+    if (pointerOnOwner_) {
+      tooltipPath_ = beginTooltipPath(tooltipRect_, point, now());
+      return;
+    }
+    if (followTooltipPath(tooltipPath_, point, now(), tooltipGraceMs_)) return;
+    hideTooltip();
+  }
+  setHotControl(hit);
 }
 
 void Window::buttonPressed(Point point, uint32_t keyState) {
@@ -325,11 +337,19 @@ bool Window::wheel(Point point, int32_t delta, bool horizontal, uint32_t keyStat
   return false;
 }
 
+void Window::captureLost() {
+  if (pressed_ == nullptr) return;
+  Control* pressed = pressed_;
+  pressed_ = nullptr;
+  pressed->setPressed(false);
+  invalidateAllNow();
+}
+
 void Window::pointerLeft() {
   trackingLeave_ = false;
   if (pressed_ != nullptr) return;
   setHotControl(nullptr);
-  hideTooltip();
+  if (!(interactiveTooltip() && tooltipPath_.pinned)) hideTooltip();
 }
 
 bool Window::keyPressed(uint32_t virtualKey, bool ctrl, bool shift, bool alt, NativeWindow native) {
@@ -370,11 +390,19 @@ void Window::timer() {
     return;
   }
   bool changed = false;
+  // A tooltip left behind closes when its time on the way or its grace time is over.
+  if (interactiveTooltip() && !pointerOnOwner_ &&
+      !followTooltipPath(tooltipPath_, pointer_, now(), tooltipGraceMs_, false)) {
+    hideTooltip();
+    changed = true;
+  }
   if (tooltipOwner_ == nullptr && hot_ != nullptr && qualifiesForTooltip(hot_) &&
       (platform_ == nullptr || !platform_->buttonHeld())) {
     const uint64_t since = std::max(hoverStartMs_, lastMoveMs_);
     if (now() >= since + uint64_t(tooltipDelayMs_)) {
       tooltipOwner_ = hot_;
+      pointerOnOwner_ = true;
+      tooltipPath_ = beginTooltipPath(Rect{}, pointer_, now());
       changed = true;
     }
   }
@@ -434,6 +462,7 @@ void Window::paintTooltip(Canvas& canvas) {
   box.x = std::max(box.x, 0);
   box.y = std::max(box.y, 0);
   tooltipRect_ = box;
+  tooltipPath_.tooltip = box;
   if (style.showShadow && (style.shadowOffsetX != 0 || style.shadowOffsetY != 0)) {
     fillShapeAlphaOn(
         canvas,

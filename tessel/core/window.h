@@ -12,6 +12,7 @@
 
 #include "tessel/core/events.h"
 #include "tessel/core/panel.h"
+#include "tessel/core/tooltip_path.h"
 #include "tessel/core/window_host.h"
 #include "tessel/core/window_platform.h"
 #include "tessel/paint/canvas.h"
@@ -47,6 +48,8 @@ class Window : public WindowHost {
   const WindowStyle& windowStyle() const { return windowStyle_; }
   void setTooltipStyle(const TooltipStyle& style) { tooltipStyle_ = style; }
   void setTooltipDelay(int32_t ms) { tooltipDelayMs_ = ms < 0 ? 0 : ms; }
+  // 1: the tooltip can be reached with the pointer (it stays on the way and pins when entered).
+  void setTooltipMode(int32_t mode) { tooltipMode_ = mode; }
   int32_t tooltipDelay() const { return tooltipDelayMs_; }
   void setMinimumClientSize(Size size) { minimumClientSize_ = size; }
   void setAutoMinimumSize(bool on) { autoMinimumSize_ = on; }
@@ -96,6 +99,9 @@ class Window : public WindowHost {
   // True when a control (or an input handler) took the wheel.
   bool wheel(Point point, int32_t delta, bool horizontal, uint32_t keyState);
   void pointerLeft();
+  // The system took the pointer (a window move, another window's capture): the press ends
+  // without a click.
+  void captureLost();
   // True when consumed; otherwise the system's default handling follows.
   bool keyPressed(uint32_t virtualKey, bool ctrl, bool shift, bool alt, NativeWindow native);
   bool character(char16_t unit, NativeWindow native);
@@ -131,6 +137,7 @@ class Window : public WindowHost {
  private:
   void setHotControl(Control* control);
   bool qualifiesForTooltip(Control* control);
+  bool interactiveTooltip() const { return tooltipOwner_ != nullptr && tooltipMode_ == 1; }
   void paintTooltip(Canvas& canvas);
   uint64_t now() const;
   Point localPoint(const Control& control, Point client) const;
@@ -167,6 +174,10 @@ class Window : public WindowHost {
   uint64_t lastMoveMs_ = 0;
   Control* tooltipOwner_ = nullptr;
   Rect tooltipRect_;
+  int32_t tooltipMode_ = 0;
+  int32_t tooltipGraceMs_ = 350;
+  TooltipPath tooltipPath_;
+  bool pointerOnOwner_ = false;
 };
 
 // A shape's pixels as rectangles: rows of equal span merged, exactly what the inside test

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "tessel/core/system_move.h"
 #include "tessel/core/window_frame.h"
 #include "tessel/paint/gdi_canvas_win32.h"
 
@@ -66,6 +67,16 @@ bool keyHeld(int key) {
   return (GetKeyState(key) & 0x8000) != 0;
 }
 
+// A caption or header drag: the system's interactive move of the control's window.
+void startWindowMove(Control& source) {
+  auto* window = dynamic_cast<Window*>(source.window());
+  auto* native =
+      window != nullptr ? dynamic_cast<Win32WindowPlatform*>(window->platform()) : nullptr;
+  if (native == nullptr || native->hwnd() == nullptr) return;
+  ReleaseCapture();
+  SendMessageW(native->hwnd(), WM_NCLBUTTONDOWN, HTCAPTION, 0);
+}
+
 }  // namespace
 
 Win32WindowPlatform::Win32WindowPlatform(Window& window) : window_(window) {
@@ -83,6 +94,7 @@ Win32WindowPlatform::~Win32WindowPlatform() {
 
 bool Win32WindowPlatform::create(const NativeWindowOptions& options) {
   if (!registerClassOnce(options.instance, &Win32WindowPlatform::procedure)) return false;
+  setSystemMoveHook(startWindowMove);
   style_ = options.style;
   exStyle_ = options.exStyle;
   quitOnDestroy_ = options.quitOnDestroy;
@@ -270,6 +282,9 @@ LRESULT Win32WindowPlatform::handle(UINT message, WPARAM wParam, LPARAM lParam) 
     }
     case WM_MOUSELEAVE:
       window_.pointerLeft();
+      return 0;
+    case WM_CAPTURECHANGED:
+      if (reinterpret_cast<HWND>(lParam) != hwnd_) window_.captureLost();
       return 0;
     default:
       break;

@@ -13,6 +13,7 @@
 #include "tessel/paint/color.h"
 #include "tessel/paint/image.h"
 #include "tessel/paint/layer_runs.h"
+#include "tessel/paint/line_raster.h"
 #include "tessel/skin/text_style.h"
 
 namespace tessel {
@@ -25,6 +26,8 @@ enum TextFlags : uint32_t {
   kTextTop = 0,
   kTextMiddle = 4,
   kTextBottom = 8,
+  // Text wider than its rectangle ends in "..." instead of being cut off.
+  kTextEndEllipsis = 16,
 };
 
 class Canvas {
@@ -57,6 +60,13 @@ class Canvas {
   virtual Image copyPixels(const Rect& rect) const = 0;
   // Writes pixels as they are, without blending, with `source`'s top-left at `target`.
   virtual void putPixels(const Image& image, const Rect& source, Point target) = 0;
+
+  // A straight line of `width` pixels, both end points included. The default fills the squares
+  // of lineStamps (line_raster.h); a device context draws it with a pen instead.
+  virtual void drawLine(Point from, Point to, Color color, int32_t width) {
+    for (const Rect& stamp : lineStamps(from, to, width))
+      fillRect(stamp, color);
+  }
 
   virtual Size measureText(const std::wstring& text, const TextStyle& style) const = 0;
   virtual void drawText(const std::wstring& text, const Rect& rect, const TextStyle& style,

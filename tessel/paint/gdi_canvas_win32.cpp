@@ -154,6 +154,19 @@ void GdiCanvas::putPixels(const Image& image, const Rect& source, Point target) 
   if (memory) DeleteDC(memory);
 }
 
+void GdiCanvas::drawLine(Point from, Point to, Color color, int32_t width) {
+  if (width < 1) return;
+  HPEN pen = CreatePen(PS_SOLID, width, color);
+  if (!pen) return;
+  HGDIOBJ previous = SelectObject(dc_, pen);
+  MoveToEx(dc_, from.x, from.y, nullptr);
+  LineTo(dc_, to.x, to.y);
+  // A one-pixel pen leaves out the last point; wider pens cover it with their round caps.
+  if (width == 1) SetPixelV(dc_, to.x, to.y, color);
+  SelectObject(dc_, previous);
+  DeleteObject(pen);
+}
+
 HFONT GdiCanvas::fontFor(const TextStyle& style) const {
   return sharedFont(style, GetDeviceCaps(dc_, LOGPIXELSY));
 }
@@ -177,6 +190,7 @@ void GdiCanvas::drawText(const std::wstring& text, const Rect& rect, const TextS
   if (flags & kTextRight) format |= DT_RIGHT;
   if (flags & kTextMiddle) format |= DT_VCENTER;
   if (flags & kTextBottom) format |= DT_BOTTOM;
+  if (flags & kTextEndEllipsis) format |= DT_END_ELLIPSIS;
   RECT r{rect.x, rect.y, rect.right(), rect.bottom()};
   DrawTextW(dc_, text.c_str(), static_cast<int>(text.size()), &r, format);
   SelectObject(dc_, previous);

@@ -29,6 +29,7 @@ class GdiCanvas : public Canvas {
                   uint8_t opacity) override;
   Image copyPixels(const Rect& rect) const override;
   void putPixels(const Image& image, const Rect& source, Point target) override;
+  void drawLine(Point from, Point to, Color color, int32_t width) override;
   Size measureText(const std::wstring& text, const TextStyle& style) const override;
   void drawText(const std::wstring& text, const Rect& rect, const TextStyle& style, Color color,
                 uint32_t flags) override;

@@ -6,6 +6,7 @@
 #include "tessel/paint/pixel_blend.h"
 #include "tessel/paint/shape_geometry.h"
 #include "tessel/paint/stand_in_font.h"
+#include "tessel/paint/text_ellipsis.h"
 
 namespace tessel {
 
@@ -184,6 +185,14 @@ Size ImageCanvas::measureText(const std::wstring& text, const TextStyle& style) 
 void ImageCanvas::drawText(const std::wstring& text, const Rect& rect, const TextStyle& style,
                            Color color, uint32_t flags) {
   if (image_.empty() || text.empty()) return;
+  if (flags & kTextEndEllipsis) {
+    const std::wstring shortened = endEllipsisText(
+        text, rect.width, [&](const std::wstring& t) { return measureText(t, style).width; });
+    if (shortened != text) {
+      drawText(shortened, rect, style, color, flags & ~uint32_t{kTextEndEllipsis});
+      return;
+    }
+  }
   const Size extent = measureText(text, style);
   int32_t x = rect.x;
   if (flags & kTextCenter) x = rect.x + (rect.width - extent.width) / 2;

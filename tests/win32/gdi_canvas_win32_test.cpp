@@ -129,5 +129,42 @@ TEST(GdiCanvas, TextIsMeasuredAndDrawn) {
   EXPECT_GT(dark, 10);
 }
 
+TEST(GdiCanvas, WideLinesCoverTheSoftwareStampsCentre) {
+  MemoryTarget target(20, 20);
+  GdiCanvas canvas(target.dc, Size{20, 20});
+  canvas.fillRect(Rect{0, 0, 20, 20}, rgbColor(255, 255, 255));
+  canvas.drawLine(Point{3, 7}, Point{6, 10}, rgbColor(0, 0, 0), 2);
+  canvas.drawLine(Point{6, 10}, Point{15, 3}, rgbColor(0, 0, 0), 2);
+  // The pen straddles the ideal line, as the memory canvas's 2x2 stamps do: every point of the
+  // walk and both ends are covered, and nothing far from the mark is.
+  for (const Point p : {Point{3, 7}, Point{5, 9}, Point{6, 10}, Point{10, 7}, Point{15, 3}})
+    EXPECT_LT(redOf(target.at(p.x, p.y)), 128) << p.x << "," << p.y;
+  EXPECT_EQ(target.at(15, 15), rgbColor(255, 255, 255));
+  EXPECT_EQ(target.at(3, 3), rgbColor(255, 255, 255));
+}
+
+TEST(GdiCanvas, EndEllipsisKeepsTextInsideItsRectangle) {
+  MemoryTarget target(200, 30);
+  GdiCanvas canvas(target.dc, Size{200, 30});
+  canvas.fillRect(Rect{0, 0, 200, 30}, rgbColor(255, 255, 255));
+  TextStyle style;
+  style.fontFamily = L"Tahoma";
+  style.pointSize = 10;
+  const std::wstring text = L"A rather long line of text that cannot fit";
+  ASSERT_GT(canvas.measureText(text, style).width, 60);
+  canvas.drawText(text, Rect{0, 0, 60, 30}, style, rgbColor(0, 0, 0),
+                  kTextLeft | kTextMiddle | kTextEndEllipsis);
+  int dark = 0;
+  for (int y = 0; y < 30; ++y) {
+    for (int x = 0; x < 200; ++x) {
+      if (redOf(target.at(x, y)) < 128) {
+        ++dark;
+        EXPECT_LT(x, 60);
+      }
+    }
+  }
+  EXPECT_GT(dark, 10);
+}
+
 }  // namespace
 }  // namespace tessel

@@ -147,6 +147,15 @@ TEST_F(WindowTest, ReleaseOutsideThePressedControlDoesNotClick) {
   EXPECT_EQ(log, expected);
 }
 
+TEST_F(WindowTest, LosingTheCaptureEndsThePressWithoutAClick) {
+  window.buttonPressed(kOnButton, 1);
+  window.captureLost();
+  EXPECT_EQ(window.pressedControl(), nullptr);
+  window.buttonReleased(kOnButton, 0);  // the system swallowed the real release
+  EXPECT_EQ(std::count(log.begin(), log.end(), "button.clicked"), 0);
+  EXPECT_EQ(log.back(), "button.released");
+}
+
 TEST_F(WindowTest, ATakenReleaseDoesNotClick) {
   window.input.second.connect([](InputEvent& event) {
     if (event.kind == InputKind::Pointer && static_cast<PointerInputEvent&>(event).source == L"up")
@@ -248,6 +257,50 @@ TEST_F(WindowTest, TooltipClockRestartsOnRealMovesOnly) {
   platform.held = false;
   window.timer();
   EXPECT_TRUE(window.tooltipShown());
+}
+
+TEST_F(WindowTest, AnInteractiveTooltipCanBeReachedAndPinned) {
+  button->setTooltip(L"MORE ABOUT THIS");
+  window.setTooltipDelay(0);
+  window.setTooltipMode(1);
+  window.pointerMoved(kOnButton, 0);
+  window.timer();
+  Image frame = Image::blank(400, 300);
+  ImageCanvas canvas(frame);
+  window.paintFrame(canvas, Rect{0, 0, 400, 300});
+  const Rect tip = window.tooltipRect();
+  ASSERT_FALSE(tip.empty());
+  // Leaving the button straight down towards the tooltip keeps it; other controls don't turn hot.
+  window.pointerMoved(Point{kOnButton.x, tip.y - 3}, 0);
+  EXPECT_TRUE(window.tooltipShown());
+  EXPECT_EQ(window.hotControl(), button);
+  // Inside it pins; a pinned tooltip survives the pointer leaving the window.
+  window.pointerMoved(Point{tip.x + 4, tip.y + 4}, 0);
+  window.pointerLeft();
+  EXPECT_TRUE(window.tooltipShown());
+  // Away from it, the grace time runs out on the timer.
+  window.pointerMoved(Point{390, 10}, 0);
+  EXPECT_TRUE(window.tooltipShown());
+  platform.clock += 349;
+  window.timer();
+  EXPECT_TRUE(window.tooltipShown());
+  platform.clock += 1;
+  window.timer();
+  EXPECT_FALSE(window.tooltipShown());
+}
+
+TEST_F(WindowTest, AnInteractiveTooltipClosesWhenThePointerTurnsAway) {
+  button->setTooltip(L"MORE ABOUT THIS");
+  window.setTooltipDelay(0);
+  window.setTooltipMode(1);
+  window.pointerMoved(kOnButton, 0);
+  window.timer();
+  Image frame = Image::blank(400, 300);
+  ImageCanvas canvas(frame);
+  window.paintFrame(canvas, Rect{0, 0, 400, 300});
+  window.pointerMoved(kOnOther, 0);  // sideways onto the other control, away from the tooltip
+  EXPECT_FALSE(window.tooltipShown());
+  EXPECT_EQ(window.hotControl(), other);
 }
 
 TEST_F(WindowTest, TheTooltipIsPaintedInsideTheClientArea) {
