@@ -25,45 +25,28 @@ std::vector<MarkupSpan> parseSpans(const std::wstring& line) {
   size_t i = 0;
   while (i < line.size()) {
     const wchar_t c = line[i];
-    if (c == L'*' && i + 1 < line.size() && line[i + 1] == L'*') {
-      const size_t close = line.find(L"**", i + 2);
+    // A span between a mark and its closing twin; an unmatched mark stays as text.
+    const auto delimited = [&](const std::wstring& mark, bool MarkupSpan::*style,
+                               bool opens) -> bool {
+      if (line.compare(i, mark.size(), mark) != 0) return false;
+      const size_t close = opens ? line.find(mark, i + mark.size()) : std::wstring::npos;
       if (close == std::wstring::npos) {
-        appendPlain(spans, L"**");
-        i += 2;
-        continue;
+        appendPlain(spans, mark);
+        i += mark.size();
+        return true;
       }
-      MarkupSpan span{line.substr(i + 2, close - i - 2)};
-      span.bold = true;
+      MarkupSpan span;
+      span.text = line.substr(i + mark.size(), close - i - mark.size());
+      span.*style = true;
       spans.push_back(span);
-      i = close + 2;
+      i = close + mark.size();
+      return true;
+    };
+    if (delimited(L"**", &MarkupSpan::bold, true)) continue;
+    // Italic only when no blank follows the star.
+    if (delimited(L"*", &MarkupSpan::italic, i + 1 < line.size() && !isBlank(line[i + 1])))
       continue;
-    }
-    if (c == L'*') {
-      const size_t close = line.find(L'*', i + 1);
-      if (i + 1 >= line.size() || isBlank(line[i + 1]) || close == std::wstring::npos) {
-        appendPlain(spans, L"*");
-        ++i;
-        continue;
-      }
-      MarkupSpan span{line.substr(i + 1, close - i - 1)};
-      span.italic = true;
-      spans.push_back(span);
-      i = close + 1;
-      continue;
-    }
-    if (c == L'`') {
-      const size_t close = line.find(L'`', i + 1);
-      if (close == std::wstring::npos) {
-        appendPlain(spans, L"`");
-        ++i;
-        continue;
-      }
-      MarkupSpan span{line.substr(i + 1, close - i - 1)};
-      span.code = true;
-      spans.push_back(span);
-      i = close + 1;
-      continue;
-    }
+    if (delimited(L"`", &MarkupSpan::code, true)) continue;
     if (c == L'[') {
       const size_t labelEnd = line.find(L']', i + 1);
       const bool opens = labelEnd != std::wstring::npos && labelEnd + 1 < line.size() &&
@@ -74,7 +57,8 @@ std::vector<MarkupSpan> parseSpans(const std::wstring& line) {
         ++i;
         continue;
       }
-      MarkupSpan span{line.substr(i + 1, labelEnd - i - 1)};
+      MarkupSpan span;
+      span.text = line.substr(i + 1, labelEnd - i - 1);
       span.link = true;
       span.target = line.substr(labelEnd + 2, targetEnd - labelEnd - 2);
       spans.push_back(span);

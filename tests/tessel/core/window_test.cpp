@@ -97,6 +97,11 @@ class ProbePanel : public Panel {
   std::vector<std::string>& log_;
 };
 
+// Absolute place of the button: panel (10, 10) + (20, 30).
+const Point kOnButton{35, 45};
+const Point kOnOther{115, 45};
+const Point kOnPanel{190, 100};
+
 class WindowTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -108,6 +113,19 @@ class WindowTest : public ::testing::Test {
     log.clear();
   }
 
+  // Opens the button's tooltip in the interactive mode and paints it; returns where it is.
+  Rect ShowInteractiveTooltip() {
+    button->setTooltip(L"MORE ABOUT THIS");
+    window.setTooltipDelay(0);
+    window.setTooltipMode(1);
+    window.pointerMoved(kOnButton, 0);
+    window.timer();
+    Image frame = Image::blank(400, 300);
+    ImageCanvas canvas(frame);
+    window.paintFrame(canvas, Rect{0, 0, 400, 300});
+    return window.tooltipRect();
+  }
+
   std::vector<std::string> log;
   RecordingPlatform platform;
   Window window;
@@ -115,11 +133,6 @@ class WindowTest : public ::testing::Test {
   Probe* button = nullptr;
   Probe* other = nullptr;
 };
-
-// Absolute place of the button: panel (10, 10) + (20, 30).
-const Point kOnButton{35, 45};
-const Point kOnOther{115, 45};
-const Point kOnPanel{190, 100};
 
 TEST_F(WindowTest, AClickPressesCapturesAndClicksOnRelease) {
   window.pointerMoved(kOnButton, 0);
@@ -260,15 +273,7 @@ TEST_F(WindowTest, TooltipClockRestartsOnRealMovesOnly) {
 }
 
 TEST_F(WindowTest, AnInteractiveTooltipCanBeReachedAndPinned) {
-  button->setTooltip(L"MORE ABOUT THIS");
-  window.setTooltipDelay(0);
-  window.setTooltipMode(1);
-  window.pointerMoved(kOnButton, 0);
-  window.timer();
-  Image frame = Image::blank(400, 300);
-  ImageCanvas canvas(frame);
-  window.paintFrame(canvas, Rect{0, 0, 400, 300});
-  const Rect tip = window.tooltipRect();
+  const Rect tip = ShowInteractiveTooltip();
   ASSERT_FALSE(tip.empty());
   // Leaving the button straight down towards the tooltip keeps it; other controls don't turn hot.
   window.pointerMoved(Point{kOnButton.x, tip.y - 3}, 0);
@@ -290,14 +295,7 @@ TEST_F(WindowTest, AnInteractiveTooltipCanBeReachedAndPinned) {
 }
 
 TEST_F(WindowTest, AnInteractiveTooltipClosesWhenThePointerTurnsAway) {
-  button->setTooltip(L"MORE ABOUT THIS");
-  window.setTooltipDelay(0);
-  window.setTooltipMode(1);
-  window.pointerMoved(kOnButton, 0);
-  window.timer();
-  Image frame = Image::blank(400, 300);
-  ImageCanvas canvas(frame);
-  window.paintFrame(canvas, Rect{0, 0, 400, 300});
+  ShowInteractiveTooltip();
   window.pointerMoved(kOnOther, 0);  // sideways onto the other control, away from the tooltip
   EXPECT_FALSE(window.tooltipShown());
   EXPECT_EQ(window.hotControl(), other);
