@@ -41,6 +41,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/controls/bitmap_button.cpp
   tessel/controls/card.cpp
   tessel/controls/check_box.cpp
+  tessel/controls/designed_popup.cpp
   tessel/controls/inline_markup.cpp
   tessel/controls/label.cpp
   tessel/controls/progress_bar.cpp
@@ -62,6 +63,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/layer_runs.cpp
   tessel/paint/line_raster.cpp
   tessel/paint/text_ellipsis.cpp
+  tessel/paint/text_wrap.cpp
   tessel/paint/material_kind.cpp
   tessel/paint/material_layers.cpp
   tessel/paint/material_layers_avx2.cpp
@@ -106,6 +108,7 @@ set(STAYHOLD_PORTABLE_WIN32_SOURCES
 set(STAYHOLD_WIN32_SOURCES
   tessel/paint/gdi_canvas_win32.cpp
   tessel/paint/private_fonts_win32.cpp
+  tessel/paint/icon_image_win32.cpp
   tessel/core/window_win32.cpp
   tessel/core/dialog_window_win32.cpp
   guard/app_icon_win32.cpp

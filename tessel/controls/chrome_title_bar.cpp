@@ -20,9 +20,8 @@ namespace {
 constexpr int32_t kWindowMinimize = 0, kWindowMaximize = 1, kWindowResetSize = 2, kWindowClose = 3;
 constexpr const wchar_t* kWindowButtonIds[] = {L"chrome-minimize", L"chrome-maximize",
                                                L"chrome-reset-size", L"chrome-close"};
-constexpr const wchar_t* kSlotGlyphs[] = {L"chrome_minimize", L"chrome_maximize",
-                                          L"chrome_restore", L"chrome_reset_size",
-                                          L"chrome_close"};
+constexpr const wchar_t* kSlotGlyphs[] = {L"chrome_minimize", L"chrome_maximize", L"chrome_restore",
+                                          L"chrome_reset_size", L"chrome_close"};
 
 ChromeButtonImages drawnGlyphs(const wchar_t* name) {
   return ChromeButtonImages{chromeGlyphImage(name, ChromeButtonState::Normal),
@@ -39,8 +38,8 @@ uint64_t clockMs() {
 
 }  // namespace
 
-ChromeTitleBar::ChromeTitleBar(std::wstring id, Rect bounds, std::wstring title,
-                               const Theme& theme, SurfaceMode mode)
+ChromeTitleBar::ChromeTitleBar(std::wstring id, Rect bounds, std::wstring title, const Theme& theme,
+                               SurfaceMode mode)
     : ChromeTitleBar(std::move(id), bounds, std::move(title),
                      buildChromeTitleBarStyle(theme, mode)) {}
 
@@ -115,8 +114,8 @@ void ChromeTitleBar::setMaximized(bool maximized) {
   invalidate(8);
 }
 
-void ChromeTitleBar::setHeaderAction(int32_t index, ChromeButtonImages images,
-                                     std::wstring tooltip, Handler handler) {
+void ChromeTitleBar::setHeaderAction(int32_t index, ChromeButtonImages images, std::wstring tooltip,
+                                     Handler handler) {
   if (index < 0 || index >= kHeaderActions) return;
   actionImages_[index] = std::move(images);
   actionHandlers_[index] = std::move(handler);
@@ -188,9 +187,9 @@ void ChromeTitleBar::layoutChildren() {
   if (!icon_.empty()) {
     const int32_t side = std::max(0, std::min(style_.iconSize, bar.height));
     iconRect_ = Rect{style_.iconLeft, (bar.height - side) / 2, side, side};
-    titleStart = std::max(style_.titleLeft,
-                          iconRect_.right() +
-                              std::max(style_.titleLeft - style_.iconLeft - style_.iconSize, 6));
+    titleStart = std::max(
+        style_.titleLeft,
+        iconRect_.right() + std::max(style_.titleLeft - style_.iconLeft - style_.iconSize, 6));
   } else {
     iconRect_ = Rect{};
     titleStart = std::max(style_.titleLeft, std::clamp(style_.titleLeft / 4, 6, 14));
@@ -220,11 +219,16 @@ bool ChromeTitleBar::containsPoint(Point local) const {
 
 std::wstring ChromeTitleBar::partName(int32_t part) const {
   switch (part) {
-    case kChromeMinimize: return L"minimize";
-    case kChromeMaximize: return maximized_ ? L"restore" : L"maximize";
-    case kChromeResetSize: return L"reset-size";
-    case kChromeClose: return L"close";
-    default: return L"header-action-" + std::to_wstring(part - kChromeHeaderAction0);
+    case kChromeMinimize:
+      return L"minimize";
+    case kChromeMaximize:
+      return maximized_ ? L"restore" : L"maximize";
+    case kChromeResetSize:
+      return L"reset-size";
+    case kChromeClose:
+      return L"close";
+    default:
+      return L"header-action-" + std::to_wstring(part - kChromeHeaderAction0);
   }
 }
 
@@ -296,8 +300,8 @@ bool ChromeTitleBar::applySkin(const StyleSheet& sheet) {
 }
 
 bool ChromeTitleBar::tick() {
-  const bool pulsing = std::any_of(pulses_.begin(), pulses_.begin() + headerActionCount_,
-                                   [](bool p) { return p; });
+  const bool pulsing =
+      std::any_of(pulses_.begin(), pulses_.begin() + headerActionCount_, [](bool p) { return p; });
   if (pulsing) invalidate(8);
   return Panel::tick() || pulsing;
 }
@@ -310,12 +314,16 @@ uint8_t ChromeTitleBar::pulseAlpha(uint64_t ms) {
 
 const ChromeButtonImages& ChromeTitleBar::imagesOf(int32_t part) const {
   switch (part) {
-    case kChromeMinimize: return slotImages_[size_t(ChromeSlot::Minimize)];
+    case kChromeMinimize:
+      return slotImages_[size_t(ChromeSlot::Minimize)];
     case kChromeMaximize:
       return slotImages_[size_t(maximized_ ? ChromeSlot::Restore : ChromeSlot::Maximize)];
-    case kChromeResetSize: return slotImages_[size_t(ChromeSlot::ResetSize)];
-    case kChromeClose: return slotImages_[size_t(ChromeSlot::Close)];
-    default: return actionImages_[size_t(part - kChromeHeaderAction0)];
+    case kChromeResetSize:
+      return slotImages_[size_t(ChromeSlot::ResetSize)];
+    case kChromeClose:
+      return slotImages_[size_t(ChromeSlot::Close)];
+    default:
+      return actionImages_[size_t(part - kChromeHeaderAction0)];
   }
 }
 
@@ -324,17 +332,15 @@ void ChromeTitleBar::paint(Canvas& canvas, Point origin) {
   if (rect.empty()) return;
   drawSurface(canvas, rect, style_.surface);
   if (!icon_.empty() && !iconRect_.empty()) {
-    canvas.blendImage(icon_, Rect{0, 0, icon_.width, icon_.height},
-                      Rect{rect.x + iconRect_.x, rect.y + iconRect_.y, iconRect_.width,
-                           iconRect_.height},
-                      255);
+    canvas.blendImage(
+        icon_, Rect{0, 0, icon_.width, icon_.height},
+        Rect{rect.x + iconRect_.x, rect.y + iconRect_.y, iconRect_.width, iconRect_.height}, 255);
   }
   if (!titleRect_.empty()) {
-    canvas.drawText(title_,
-                    Rect{rect.x + titleRect_.x, rect.y + titleRect_.y, titleRect_.width,
-                         titleRect_.height},
-                    style_.titleText, style_.titleText.color,
-                    kTextLeft | kTextMiddle | kTextEndEllipsis);
+    canvas.drawText(
+        title_,
+        Rect{rect.x + titleRect_.x, rect.y + titleRect_.y, titleRect_.width, titleRect_.height},
+        style_.titleText, style_.titleText.color, kTextLeft | kTextMiddle | kTextEndEllipsis);
   }
   Panel::paint(canvas, origin);
   // The glyphs over the buttons: an image per state, shrunk to fit and centred.
@@ -344,7 +350,7 @@ void ChromeTitleBar::paint(Canvas& canvas, Point origin) {
     if (!b.visible() || b.bounds().empty()) continue;
     const ChromeButtonImages& images = imagesOf(part);
     const bool disabled = !b.enabled() || (part == kChromeMaximize && !maximizeEnabled_);
-    const Image& image = disabled ? images.disabled
+    const Image& image = disabled      ? images.disabled
                          : b.pressed() ? images.pressed
                          : b.hot()     ? images.hot
                                        : images.normal;
@@ -360,9 +366,9 @@ void ChromeTitleBar::paint(Canvas& canvas, Point origin) {
     const Rect target{rect.x + b.bounds().x + (b.bounds().width - w) / 2,
                       rect.y + b.bounds().y + (b.bounds().height - h) / 2, w, h};
     const int32_t index = part - kChromeHeaderAction0;
-    const uint8_t alpha = disabled ? 180
+    const uint8_t alpha = disabled                                             ? 180
                           : (part < kChromeMinimize && pulses_[size_t(index)]) ? pulseAlpha(now)
-                                                                                 : 255;
+                                                                               : 255;
     canvas.blendImage(image, Rect{0, 0, image.width, image.height}, target, alpha);
   }
 }

@@ -12,10 +12,10 @@
 namespace tessel {
 
 struct TooltipPath {
-  Rect tooltip;                   // where the tooltip is shown
-  Point last;                     // the pointer's last position
-  uint64_t lastSafeMs = 0;        // the last moment the pointer was on its way
-  uint64_t leftPinnedAtMs = 0;    // when a pinned tooltip was left (0: not left)
+  Rect tooltip;                 // where the tooltip is shown
+  Point last;                   // the pointer's last position
+  uint64_t lastSafeMs = 0;      // the last moment the pointer was on its way
+  uint64_t leftPinnedAtMs = 0;  // when a pinned tooltip was left (0: not left)
   bool pinned = false;
 };
 

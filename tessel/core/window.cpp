@@ -337,6 +337,12 @@ bool Window::wheel(Point point, int32_t delta, bool horizontal, uint32_t keyStat
   return false;
 }
 
+void Window::setFocusedControl(Control* control) {
+  if (control == focused_) return;
+  if (focused_ != nullptr) focused_->focusLost();
+  focused_ = control;
+}
+
 void Window::captureLost() {
   if (pressed_ == nullptr) return;
   Control* pressed = pressed_;

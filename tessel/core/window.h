@@ -121,6 +121,9 @@ class Window : public WindowHost {
   // The window's shape as rectangles in client coordinates; nullopt for no region.
   std::optional<std::vector<Rect>> surfaceRegion();
 
+  // Gives the keyboard to `control` (a dialog's default control); null takes it away.
+  void setFocusedControl(Control* control);
+
   Control* hotControl() const { return hot_; }
   Control* pressedControl() const { return pressed_; }
   Control* focusedControl() const { return focused_; }

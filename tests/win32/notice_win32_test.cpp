@@ -1,0 +1,70 @@
+// The notices as the user meets them: a skinned dialog that a key, the title bar's close or the
+// popup's own close button ends, with the answer each gives.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <thread>
+
+#include "tray/notice.h"
+
+namespace {
+
+// Waits on another thread for the notice titled `title`, then does `act` to it.
+class NoticeDriver {
+ public:
+  NoticeDriver(const wchar_t* title, std::function<void(HWND)> act)
+      : thread_([this, title, act] {
+          for (int i = 0; i < 400 && !found_; ++i) {
+            if (HWND hwnd = FindWindowW(L"TesselDesignWindow", title)) {
+              found_ = true;
+              act(hwnd);
+              return;
+            }
+            Sleep(25);
+          }
+        }) {}
+  ~NoticeDriver() { thread_.join(); }
+  bool found() const { return found_; }
+
+ private:
+  std::atomic<bool> found_{false};
+  std::thread thread_;
+};
+
+void Key(HWND hwnd, WPARAM key) {
+  PostMessageW(hwnd, WM_KEYDOWN, key, 1);
+  PostMessageW(hwnd, WM_KEYUP, key, 0xC0000001);
+}
+
+TEST(NoticeWin32, EnterConfirmsTheExit) {
+  NoticeDriver driver(L"Exit Stayhold", [](HWND hwnd) { Key(hwnd, VK_RETURN); });
+  EXPECT_TRUE(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr));
+}
+
+TEST(NoticeWin32, ClosingTheWindowOrThePopupMeansNo) {
+  {
+    NoticeDriver driver(L"Exit Stayhold", [](HWND hwnd) { PostMessageW(hwnd, WM_CLOSE, 0, 0); });
+    EXPECT_FALSE(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr));
+  }
+  {
+    NoticeDriver driver(L"Exit Stayhold", [](HWND hwnd) { Key(hwnd, VK_ESCAPE); });
+    EXPECT_FALSE(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr));
+  }
+}
+
+TEST(NoticeWin32, AnErrorNoticeIsTheLargerWindow) {
+  RECT client{};
+  NoticeDriver driver(L"Setup failed", [&client](HWND hwnd) {
+    GetClientRect(hwnd, &client);
+    Key(hwnd, VK_RETURN);
+  });
+  ShowInstallerNotice(GetModuleHandleW(nullptr), L"Setup failed", L"Details of the failure", true);
+  ASSERT_TRUE(driver.found());
+  EXPECT_EQ(client.right, 760);
+  EXPECT_EQ(client.bottom, 430);
+}
+
+}  // namespace
