@@ -9,6 +9,7 @@
 #include "tessel/controls/surface_bands.h"
 #include "tessel/controls/text_fit.h"
 #include "tessel/core/system_move.h"
+#include "tessel/paint/bitmap_surface.h"
 #include "tessel/paint/shape_geometry.h"
 #include "tessel/paint/surface_painter.h"
 #include "tessel/skin/style_sheet.h"
@@ -355,21 +356,14 @@ void ChromeTitleBar::paint(Canvas& canvas, Point origin) {
                          : b.hot()     ? images.hot
                                        : images.normal;
     if (image.empty()) continue;
-    const int32_t roomW = std::max(b.bounds().width - 10, 1);
-    const int32_t roomH = std::max(b.bounds().height - 6, 1);
-    int32_t w = image.width, h = image.height;
-    if (w > roomW || h > roomH) {
-      const double scale = std::min(double(roomW) / w, double(roomH) / h);
-      w = std::max(1, int32_t(w * scale));
-      h = std::max(1, int32_t(h * scale));
-    }
-    const Rect target{rect.x + b.bounds().x + (b.bounds().width - w) / 2,
-                      rect.y + b.bounds().y + (b.bounds().height - h) / 2, w, h};
     const int32_t index = part - kChromeHeaderAction0;
     const uint8_t alpha = disabled                                             ? 180
                           : (part < kChromeMinimize && pulses_[size_t(index)]) ? pulseAlpha(now)
                                                                                : 255;
-    canvas.blendImage(image, Rect{0, 0, image.width, image.height}, target, alpha);
+    // Images larger than the button less 10 by 6 pixels shrink to fit.
+    const Rect room{rect.x + b.bounds().x + 5, rect.y + b.bounds().y + 3,
+                    std::max(b.bounds().width - 10, 1), std::max(b.bounds().height - 6, 1)};
+    blendImageFitted(canvas, image, room, alpha);
   }
 }
 

@@ -6,6 +6,7 @@
 #include "tessel/controls/text_fit.h"
 #include "tessel/controls/themed_button.h"
 #include "tessel/core/system_move.h"
+#include "tessel/paint/bitmap_surface.h"
 #include "tessel/paint/shape_geometry.h"
 #include "tessel/paint/surface_outline.h"
 #include "tessel/paint/surface_painter.h"
@@ -52,19 +53,6 @@ const Image& stateImage(const ChromeButtonImages& images, ButtonVisualState stat
     default:
       return images.normal;
   }
-}
-
-// Blends `image` centred in `room`, shrunk with its proportions kept when it is larger.
-void blendFitted(Canvas& canvas, const Image& image, const Rect& room) {
-  if (image.empty() || room.empty()) return;
-  int32_t w = image.width, h = image.height;
-  if (w > room.width || h > room.height) {
-    const double scale = std::min(double(room.width) / w, double(room.height) / h);
-    w = std::max(1, int32_t(w * scale));
-    h = std::max(1, int32_t(h * scale));
-  }
-  canvas.blendImage(image, Rect{0, 0, image.width, image.height},
-                    Rect{room.x + (room.width - w) / 2, room.y + (room.height - h) / 2, w, h}, 255);
 }
 
 Rect offsetBy(const Rect& rect, Point origin) {
@@ -247,9 +235,9 @@ void DesignedPopup::paint(Canvas& canvas, Point origin) {
     drawSurface(canvas, close, buttonStateSurface(style_.closeButton.surface, state));
     const Image& own = stateImage(closeImages_, state);
     const Image& image = !own.empty() ? own : stateImage(closeImages_, ButtonVisualState::Normal);
-    blendFitted(canvas,
-                !image.empty() ? image : chromeGlyphImage(L"chrome_close", chromeState(state)),
-                applyInsets(close, Insets{3, 3, 3, 3}));
+    blendImageFitted(canvas,
+                     !image.empty() ? image : chromeGlyphImage(L"chrome_close", chromeState(state)),
+                     applyInsets(close, Insets{3, 3, 3, 3}));
   }
   for (size_t i = 0; i < actions_.size(); ++i)
     paintAction(canvas, i, offsetBy(actionRect(i), at));
@@ -291,7 +279,7 @@ void DesignedPopup::paintAction(Canvas& canvas, size_t index, const Rect& rect) 
   if (!image.empty()) {
     // The image takes a square at the text's start; the text is centred in what remains.
     const Rect room{text.x, text.y, std::min(text.height, text.width), text.height};
-    blendFitted(canvas, image, room);
+    blendImageFitted(canvas, image, room);
     text = Rect{room.right(), text.y, std::max(text.right() - room.right(), 0), text.height};
   }
   const Color color =

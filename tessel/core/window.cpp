@@ -262,7 +262,9 @@ void Window::pointerMoved(Point point, uint32_t keyState) {
 
 void Window::buttonPressed(Point point, uint32_t keyState) {
   pointer_ = point;
-  if (tooltipOwner_ != nullptr && !tooltipRect_.contains(point.x, point.y)) hideTooltip();
+  // A press on the tooltip belongs to it, not to the controls it covers.
+  if (tooltipOwner_ != nullptr && tooltipRect_.contains(point.x, point.y)) return;
+  if (tooltipOwner_ != nullptr) hideTooltip();
   if (input.hasLiveSlot()) {
     PointerInputEvent record;
     record.source = L"down";

@@ -262,4 +262,17 @@ void drawImageNineSlice(Canvas& canvas, const Image& image, const Rect& rect,
   }
 }
 
+void blendImageFitted(Canvas& canvas, const Image& image, const Rect& room, uint8_t opacity) {
+  if (image.empty() || room.empty()) return;
+  int32_t w = image.width, h = image.height;
+  if (w > room.width || h > room.height) {
+    const double scale = std::min(double(room.width) / w, double(room.height) / h);
+    w = std::max(1, int32_t(w * scale));
+    h = std::max(1, int32_t(h * scale));
+  }
+  canvas.blendImage(image, Rect{0, 0, image.width, image.height},
+                    Rect{room.x + (room.width - w) / 2, room.y + (room.height - h) / 2, w, h},
+                    opacity);
+}
+
 }  // namespace tessel

@@ -37,6 +37,10 @@ std::vector<SlicePiece> nineSlicePieces(Size imageSize, const Rect& target, cons
 
 // The whole image stretched onto `rect` with the constant alpha `opacity`, tinted first when
 // the tint is active.
+// Blends `image` centred in `room` at `opacity`, shrunk with its proportions kept when it is
+// larger (glyphs and icons on buttons).
+void blendImageFitted(Canvas& canvas, const Image& image, const Rect& room, uint8_t opacity = 255);
+
 void drawImage(Canvas& canvas, const Image& image, const Rect& rect, const BitmapTint& tint,
                uint8_t opacity);
 

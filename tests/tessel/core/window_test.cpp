@@ -294,6 +294,15 @@ TEST_F(WindowTest, AnInteractiveTooltipCanBeReachedAndPinned) {
   EXPECT_FALSE(window.tooltipShown());
 }
 
+TEST_F(WindowTest, APressOnTheTooltipDoesNotReachWhatItCovers) {
+  const Rect tip = ShowInteractiveTooltip();
+  log.clear();
+  window.buttonPressed(Point{tip.x + 2, tip.y + 2}, 1);
+  EXPECT_TRUE(window.tooltipShown());
+  EXPECT_EQ(window.pressedControl(), nullptr);
+  EXPECT_TRUE(log.empty());
+}
+
 TEST_F(WindowTest, AnInteractiveTooltipClosesWhenThePointerTurnsAway) {
   ShowInteractiveTooltip();
   window.pointerMoved(kOnOther, 0);  // sideways onto the other control, away from the tooltip
