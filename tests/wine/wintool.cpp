@@ -38,8 +38,17 @@ int Run(int argc, wchar_t** argv) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process = {};
-  if (!CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                      &startup, &process)) {
+  // Under load Wine sometimes refuses to start a program that an installer has just written,
+  // with ERROR_INTERNAL_ERROR; a moment later the same start succeeds. Only that error is tried
+  // again: whatever the program itself does is still checked by the caller.
+  BOOL started = FALSE;
+  for (int attempt = 0; attempt < 4 && !started; ++attempt) {
+    if (attempt > 0) Sleep(500);
+    started = CreateProcessW(nullptr, command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                             nullptr, &startup, &process);
+    if (!started && GetLastError() != ERROR_INTERNAL_ERROR) break;
+  }
+  if (!started) {
     std::wprintf(L"start-failed=%lu\n", GetLastError());
     return 1;
   }
