@@ -90,17 +90,14 @@ DialogResult RunNotice(HINSTANCE instance, const NoticeLook& look,
   HWND hwnd = native.hwnd();
 
   // Centred on the work area of the nearest monitor.
-  MONITORINFO monitor{};
-  monitor.cbSize = sizeof(monitor);
-  if (GetMonitorInfoW(MonitorFromWindow(hwnd, MONITOR_DEFAULTTONEAREST), &monitor)) {
-    RECT frame{};
-    GetWindowRect(hwnd, &frame);
-    const int width = frame.right - frame.left, height = frame.bottom - frame.top;
-    const RECT& work = monitor.rcWork;
-    SetWindowPos(hwnd, nullptr, work.left + (work.right - work.left - width) / 2,
-                 work.top + (work.bottom - work.top - height) / 2, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  }
+  tessel::Rect screen, work;
+  tessel::monitorAreas(MonitorFromWindow(hwnd, MONITOR_DEFAULTTONEAREST), screen, work);
+  RECT frame{};
+  GetWindowRect(hwnd, &frame);
+  const tessel::Rect now = tessel::rectOf(frame);
+  SetWindowPos(hwnd, nullptr, work.x + (work.width - now.width) / 2,
+               work.y + (work.height - now.height) / 2, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   SetIcons(instance, hwnd);
 
   // The popup fills the client area below the title bar.

@@ -18,16 +18,11 @@ bool createDialog(DialogWindow& dialog, Win32WindowPlatform& native, NativeWindo
   size.height = std::max(size.height, minimum.height);
   RECT ownerFrame{};
   const bool hasOwner = options.owner != nullptr && GetWindowRect(options.owner, &ownerFrame);
-  const Rect ownerRect{ownerFrame.left, ownerFrame.top, ownerFrame.right - ownerFrame.left,
-                       ownerFrame.bottom - ownerFrame.top};
-  HMONITOR monitor = hasOwner ? MonitorFromRect(&ownerFrame, MONITOR_DEFAULTTONEAREST)
-                              : MonitorFromWindow(hwnd, MONITOR_DEFAULTTONEAREST);
-  MONITORINFO info{};
-  info.cbSize = sizeof(info);
-  Rect work{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-  if (GetMonitorInfoW(monitor, &info))
-    work = Rect{info.rcWork.left, info.rcWork.top, info.rcWork.right - info.rcWork.left,
-                info.rcWork.bottom - info.rcWork.top};
+  const Rect ownerRect = rectOf(ownerFrame);
+  Rect screen, work;
+  monitorAreas(hasOwner ? MonitorFromRect(&ownerFrame, MONITOR_DEFAULTTONEAREST)
+                        : MonitorFromWindow(hwnd, MONITOR_DEFAULTTONEAREST),
+               screen, work);
   const Rect place = centreOnOwner(size, hasOwner ? &ownerRect : nullptr, work);
   SetWindowPos(hwnd, nullptr, place.x, place.y, place.width, place.height,
                SWP_NOZORDER | SWP_NOACTIVATE);

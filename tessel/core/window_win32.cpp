@@ -29,28 +29,6 @@ bool registerClassOnce(HINSTANCE instance, WNDPROC procedure) {
   return GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
 }
 
-Rect rectOf(const RECT& r) {
-  return Rect{r.left, r.top, r.right - r.left, r.bottom - r.top};
-}
-
-// The work area (and monitor rectangle) of `monitor`, or of the primary screen.
-void monitorAreas(HMONITOR monitor, Rect& screen, Rect& work) {
-  MONITORINFO info{};
-  info.cbSize = sizeof(info);
-  if (monitor != nullptr && GetMonitorInfoW(monitor, &info)) {
-    screen = rectOf(info.rcMonitor);
-    work = rectOf(info.rcWork);
-    return;
-  }
-  RECT area{};
-  if (SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0)) {
-    work = rectOf(area);
-  } else {
-    work = Rect{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-  }
-  screen = work;
-}
-
 // DwmSetWindowAttribute from dwmapi.dll, when there is one.
 void setBorderColour(HWND hwnd, COLORREF colour) {
   using SetAttribute = HRESULT(WINAPI*)(HWND, DWORD, LPCVOID, DWORD);
@@ -78,6 +56,27 @@ void startWindowMove(Control& source) {
 }
 
 }  // namespace
+
+Rect rectOf(const RECT& r) {
+  return Rect{r.left, r.top, r.right - r.left, r.bottom - r.top};
+}
+
+void monitorAreas(HMONITOR monitor, Rect& screen, Rect& work) {
+  MONITORINFO info{};
+  info.cbSize = sizeof(info);
+  if (monitor != nullptr && GetMonitorInfoW(monitor, &info)) {
+    screen = rectOf(info.rcMonitor);
+    work = rectOf(info.rcWork);
+    return;
+  }
+  RECT area{};
+  if (SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0)) {
+    work = rectOf(area);
+  } else {
+    work = Rect{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  }
+  screen = work;
+}
 
 Win32WindowPlatform::Win32WindowPlatform(Window& window) : window_(window) {
   window_.setPlatform(this);

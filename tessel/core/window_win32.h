@@ -33,6 +33,10 @@ struct WindowMessage {
   bool handled = false;
 };
 
+Rect rectOf(const RECT& r);
+// The monitor rectangle and work area of `monitor`; without one, the primary screen's.
+void monitorAreas(HMONITOR monitor, Rect& screen, Rect& work);
+
 class Win32WindowPlatform : public WindowPlatform {
  public:
   explicit Win32WindowPlatform(Window& window);
