@@ -21,6 +21,12 @@ constexpr uint32_t blueOf(Color c) {
   return (c >> 16) & 0xFF;
 }
 
+// The colour as one opaque pixel of a memory image (bytes blue, green, red, alpha), read as a
+// little-endian word, for filling rows a word at a time.
+constexpr uint32_t opaquePixelWord(Color c) {
+  return 0xFF000000u | redOf(c) << 16 | greenOf(c) << 8 | blueOf(c);
+}
+
 // a + (b - a) * t per channel with t clamped to 0..1, truncated toward zero.
 Color mixColor(Color a, Color b, double t);
 

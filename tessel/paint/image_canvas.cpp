@@ -58,7 +58,7 @@ bool ImageCanvas::clipped(int32_t x, int32_t y) const {
 
 void ImageCanvas::fillRect(const Rect& rect, Color color) {
   if (image_.empty()) return;
-  const uint32_t word = 0xFF000000u | redOf(color) << 16 | greenOf(color) << 8 | blueOf(color);
+  const uint32_t word = opaquePixelWord(color);
   for (const Rect& clip : clip_) {
     const Rect area = intersectRects(rect, clip);
     for (int32_t y = area.y; y < area.bottom(); ++y)

@@ -35,7 +35,7 @@ void forEachSpan(Image& image, const Rect& rect, ShapeKind kind, Visit visit) {
 }  // namespace
 
 void fillShape(Image& image, const Rect& rect, ShapeKind kind, Color color) {
-  const uint32_t word = 0xFF000000u | redOf(color) << 16 | greenOf(color) << 8 | blueOf(color);
+  const uint32_t word = opaquePixelWord(color);
   forEachSpan(image, rect, kind,
               [&](uint8_t* pixels, int32_t count) { fillRow(pixels, word, count); });
 }
