@@ -7,19 +7,14 @@
 #include <gtest/gtest.h>
 
 #include "guard/wide_text.h"
-#include "tessel/skin/skin_catalogue.h"
 #include "tests/skins/skin_gallery.h"
 #include "tests/support/golden_image.h"
+#include "tests/support/shipped_skins.h"
 #include "tests/support/source_files.h"
 
 using namespace tessel;
 
 namespace {
-
-const std::vector<SkinDefinition>& ShippedSkins() {
-  static const std::vector<SkinDefinition> skins = loadSkinFolder(SourceFile("skins").wstring());
-  return skins;
-}
 
 std::string GalleryName(const SkinDefinition& skin) {
   return "tests/skins/gallery/" + Utf8FromWide(skin.id) + ".png";

@@ -13,9 +13,8 @@
 #include <vector>
 
 #include "tessel/paint/surface_painter.h"
-#include "tessel/skin/skin_catalogue.h"
 #include "tessel/skin/style_sheet.h"
-#include "tests/support/source_files.h"
+#include "tests/support/shipped_skins.h"
 
 namespace tessel {
 namespace {
@@ -196,8 +195,7 @@ void WriteBmp(const std::wstring& path, const std::vector<uint8_t>& pixels, int 
 }
 
 TEST(WindowWin32, PaintsTheSkinThroughTheBackBuffer) {
-  const std::vector<SkinDefinition> skins = loadSkinFolder(SourceFile("skins").wstring());
-  const SkinDefinition* skin = findSkinOrDefault(skins, L"stayhold-tactical-3d");
+  const SkinDefinition* skin = ShippedSkin(L"stayhold-tactical-3d");
   ASSERT_NE(skin, nullptr);
   const StyleSheet sheet(*skin);
   Window window;

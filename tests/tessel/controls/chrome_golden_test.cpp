@@ -7,18 +7,16 @@
 #include "tessel/controls/themed_panel.h"
 #include "tessel/paint/image_canvas.h"
 #include "tessel/paint/surface_painter.h"
-#include "tessel/skin/skin_catalogue.h"
 #include "tessel/skin/style_sheet.h"
 #include "tests/support/golden_image.h"
-#include "tests/support/source_files.h"
+#include "tests/support/shipped_skins.h"
 
 namespace tessel {
 namespace {
 
 TEST(ChromeGolden, TitleBarOverAThemedPanel) {
   clearPaintCaches();
-  const std::vector<SkinDefinition> skins = loadSkinFolder(SourceFile("skins").wstring());
-  const SkinDefinition* skin = findSkinOrDefault(skins, L"stayhold-tactical-3d");
+  const SkinDefinition* skin = ShippedSkin(L"stayhold-tactical-3d");
   ASSERT_NE(skin, nullptr);
   const StyleSheet sheet(*skin);
   Image image = Image::blank(360, 150);
