@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <string>
 
-#include "guard/wide_text.h"
-#include "tessel/skin/control_styles.h"
+#include "base/wide_text.h"
+#include "tessel/skin/control_style_parsers.h"
 #include "tessel/skin/json_value.h"
 #include "tessel/skin/skin_catalogue.h"
 #include "tessel/skin/style_sheet.h"

@@ -9,8 +9,8 @@ set(STAYHOLD_PORTABLE_SOURCES
   guard/paths.cpp
   guard/update_policy.cpp
   guard/startup_options.cpp
-  guard/wide_text.cpp
-  guard/win_path.cpp
+  base/wide_text.cpp
+  base/win_path.cpp
   i18n/language.cpp
   i18n/language_picker.cpp
   i18n/locale_table.cpp
@@ -32,7 +32,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   # toolkit
   tessel/core/control.cpp
   tessel/core/panel.cpp
-  tessel/core/rect_extents.cpp
+  tessel/style/rect_extents.cpp
   tessel/core/dialog_window.cpp
   tessel/core/system_move.cpp
   tessel/core/tooltip_path.cpp
@@ -54,8 +54,8 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/alpha_bands.cpp
   tessel/paint/bitmap_surface.cpp
   tessel/paint/chrome_glyphs.cpp
-  tessel/paint/color.cpp
-  tessel/paint/image.cpp
+  tessel/style/color.cpp
+  tessel/style/image.cpp
   tessel/paint/image_file_common.cpp
   tessel/paint/image_canvas.cpp
   tessel/paint/pixel_blend.cpp
@@ -64,7 +64,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/line_raster.cpp
   tessel/paint/text_ellipsis.cpp
   tessel/paint/text_wrap.cpp
-  tessel/paint/material_kind.cpp
+  tessel/style/material_kind.cpp
   tessel/paint/material_layers.cpp
   tessel/paint/material_layers_avx2.cpp
   tessel/paint/material_noise.cpp
@@ -73,13 +73,12 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/sample_space.cpp
   tessel/paint/shape_fill.cpp
   tessel/paint/shape_geometry.cpp
-  tessel/paint/shape_kind.cpp
+  tessel/skin/skin_words.cpp
   tessel/paint/stand_in_font.cpp
   tessel/paint/surface_outline.cpp
   tessel/paint/surface_painter.cpp
   tessel/paint/ui_performance.cpp
   tessel/paint/gradient.cpp
-  tessel/paint/gradient_words.cpp
   tessel/skin/app_skin_catalogue.cpp
   tessel/skin/control_style_parsers.cpp
   tessel/skin/json_access.cpp
@@ -112,8 +111,9 @@ set(STAYHOLD_WIN32_SOURCES
   tessel/core/window_win32.cpp
   tessel/core/dialog_window_win32.cpp
   guard/app_icon_win32.cpp
-  guard/file_system_win32.cpp
+  base/file_system_win32.cpp
   guard/hidden_window_win32.cpp
+  guard/install_folder_win32.cpp
   guard/local_time_win32.cpp
   guard/log_win32.cpp
   guard/profile_store_win32.cpp

@@ -4,9 +4,9 @@
 #include <climits>
 #include <cwctype>
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/paths.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "i18n/language.h"
 #include "tessel/skin/app_skin_catalogue.h"
 

@@ -1,7 +1,7 @@
 #include "guard/guard_text.h"
 
 #include "guard/guard_status.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "i18n/language.h"
 #include "i18n/locale_system.h"
 #include "i18n/localized.h"

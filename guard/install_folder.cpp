@@ -1,8 +1,8 @@
 #include "guard/install_folder.h"
 
-#include "guard/file_system.h"
-#include "guard/wide_text.h"
-#include "guard/win_path.h"
+#include "base/file_system.h"
+#include "base/wide_text.h"
+#include "base/win_path.h"
 
 std::wstring DefaultInstallFolder() {
   return L"C:\\Program Files\\Stayhold";

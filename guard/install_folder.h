@@ -16,3 +16,7 @@ std::wstring NormalizeInstallFolder(const std::wstring& text);
 
 // Never empty.
 std::wstring ResolveInstallFolder();
+
+// The value InstallLocation under HKLM\`key` when it is REG_SZ or REG_EXPAND_SZ (not expanded) and
+// its first character is not zero; read into 260 characters.
+bool ReadInstallLocation(const wchar_t* key, std::wstring& out);

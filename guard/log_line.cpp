@@ -1,6 +1,6 @@
 #include "guard/log.h"
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 
 namespace {
 

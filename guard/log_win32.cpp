@@ -3,7 +3,7 @@
 
 #include <cstdio>
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/log.h"
 #include "guard/paths.h"
 

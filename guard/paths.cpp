@@ -1,8 +1,8 @@
 #include "guard/paths.h"
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/install_folder.h"
-#include "guard/win_path.h"
+#include "base/win_path.h"
 #include "setup/install_paths.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "guard/update_policy.h"
 
 #include "guard/log.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 
 namespace {
 

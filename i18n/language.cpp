@@ -3,7 +3,7 @@
 #include <cwctype>
 
 #include "guard/config.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "i18n/locale_system.h"
 
 std::wstring CanonicalizeTag(const std::wstring& text) {

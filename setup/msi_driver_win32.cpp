@@ -10,7 +10,7 @@
 #include "guard/log.h"
 #include "guard/paths.h"
 #include "guard/update_policy.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "setup/install_paths.h"
 #include "setup/payload.h"
 #include "setup/quote_argument.h"

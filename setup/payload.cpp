@@ -2,7 +2,7 @@
 
 #include <cwctype>
 
-#include "guard/win_path.h"
+#include "base/win_path.h"
 
 std::vector<PayloadRow> CountingPayloadRows(const PayloadRow* table) {
   std::vector<PayloadRow> rows;

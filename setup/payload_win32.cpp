@@ -9,7 +9,7 @@
 #include "setup/payload_win32.h"
 #include "setup/setup_failure.h"
 #include "setup/setup_skins.h"
-#include "guard/file_system.h"
+#include "base/file_system.h"
 
 bool WriteEmbeddedResource(int resource_id, const std::wstring& target_path) {
   HRSRC found = FindResourceW(nullptr, MAKEINTRESOURCEW(resource_id), L"SHDPAYLOAD");

@@ -5,7 +5,7 @@
 #include "guard/install_folder.h"
 #include "guard/local_time.h"
 #include "guard/version.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "i18n/localized.h"
 #include "setup/msi_driver_win32.h"
 #include "setup/registration.h"

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "guard/win32_types.h"
+#include "base/win32_types.h"
 
 bool RunInstall(bool start_with_windows, bool desktop_shortcut, const wchar_t* install_dir);
 bool RunRepair(bool start_with_windows, bool desktop_shortcut);

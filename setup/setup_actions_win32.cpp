@@ -4,12 +4,12 @@
 
 #include <filesystem>
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/install_folder.h"
 #include "guard/log.h"
 #include "guard/version.h"
-#include "guard/wide_text.h"
-#include "guard/win_path.h"
+#include "base/wide_text.h"
+#include "base/win_path.h"
 #include "i18n/localized.h"
 #include "setup/install_paths.h"
 #include "setup/msi_driver_win32.h"

@@ -4,8 +4,8 @@
 
 #include "guard/log.h"
 #include "guard/paths.h"
-#include "guard/wide_text.h"
-#include "guard/win_path.h"
+#include "base/wide_text.h"
+#include "base/win_path.h"
 #include "i18n/language.h"
 
 SetupFailure& LastSetupFailure() {

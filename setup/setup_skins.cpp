@@ -1,9 +1,9 @@
 #include "setup/setup_skins.h"
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/install_folder.h"
-#include "guard/wide_text.h"
-#include "guard/win_path.h"
+#include "base/wide_text.h"
+#include "base/win_path.h"
 #include "setup/install_paths.h"
 
 std::vector<PayloadRow> SetupSkinRows(const PayloadRow* table) {

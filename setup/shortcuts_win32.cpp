@@ -5,7 +5,7 @@
 #include <shlobj.h>
 #include <shobjidl.h>
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/install_folder.h"
 #include "guard/log.h"
 #include "i18n/localized.h"

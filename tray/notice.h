@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "guard/win32_types.h"
+#include "base/win32_types.h"
 
 // Plain: an information notice; error: a failure notice with room for long details. One OK button.
 void ShowInstallerNotice(InstanceHandle instance, const std::wstring& title,

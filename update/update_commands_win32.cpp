@@ -2,7 +2,7 @@
 
 #include <process.h>
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/guard_messages.h"
 #include "guard/hidden_window_win32.h"
 #include "guard/log.h"

@@ -1,8 +1,8 @@
 #include "update/update_install.h"
 
 #include "guard/log.h"
-#include "guard/wide_text.h"
-#include "guard/win_path.h"
+#include "base/wide_text.h"
+#include "base/win_path.h"
 #include "i18n/localized.h"
 
 void SetUpdateProgress(UpdateInstallState& state, UpdateInstallServices& services, int percent,

@@ -9,7 +9,7 @@
 
 #include "tessel/controls/themed_button.h"
 #include "tessel/core/control.h"
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 #include "tessel/skin/style_builders.h"
 
 namespace tessel {

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "tessel/paint/color.h"
-#include "tessel/skin/text_style.h"
+#include "tessel/style/color.h"
+#include "tessel/style/text_style.h"
 
 namespace tessel {
 

@@ -5,8 +5,8 @@
 
 #include <vector>
 
-#include "tessel/core/geometry.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel {
 

@@ -8,7 +8,7 @@
 #include <functional>
 #include <string>
 
-#include "tessel/skin/text_style.h"
+#include "tessel/style/text_style.h"
 
 namespace tessel {
 

@@ -14,11 +14,11 @@
 #include <vector>
 
 #include "tessel/core/events.h"
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 #include "tessel/core/signal.h"
 #include "tessel/paint/canvas.h"
-#include "tessel/skin/control_styles.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/control_styles.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel {
 

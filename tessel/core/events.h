@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 #include "tessel/core/signal.h"
 
 namespace tessel {

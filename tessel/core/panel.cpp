@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tessel/core/rect_extents.h"
+#include "tessel/style/rect_extents.h"
 #include "tessel/core/window_host.h"
 #include "tessel/paint/image_canvas.h"
 #include "tessel/paint/shape_geometry.h"

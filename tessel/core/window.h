@@ -17,7 +17,7 @@
 #include "tessel/core/window_platform.h"
 #include "tessel/paint/canvas.h"
 #include "tessel/paint/ui_performance.h"
-#include "tessel/skin/control_styles.h"
+#include "tessel/style/control_styles.h"
 
 namespace tessel {
 

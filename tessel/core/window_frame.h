@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 
 namespace tessel {
 

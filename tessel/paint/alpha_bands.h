@@ -5,9 +5,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "tessel/core/geometry.h"
-#include "tessel/paint/image.h"
-#include "tessel/paint/shape_kind.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/image.h"
+#include "tessel/style/shape_kind.h"
 
 namespace tessel {
 

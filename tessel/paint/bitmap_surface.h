@@ -6,11 +6,11 @@
 #include <cstdint>
 #include <vector>
 
-#include "tessel/core/geometry.h"
-#include "tessel/paint/bitmap_tint.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/bitmap_tint.h"
 #include "tessel/paint/canvas.h"
-#include "tessel/paint/image.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/image.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel {
 

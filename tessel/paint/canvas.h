@@ -9,12 +9,12 @@
 #include <string>
 #include <vector>
 
-#include "tessel/core/geometry.h"
-#include "tessel/paint/color.h"
-#include "tessel/paint/image.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/color.h"
+#include "tessel/style/image.h"
 #include "tessel/paint/layer_runs.h"
 #include "tessel/paint/line_raster.h"
-#include "tessel/skin/text_style.h"
+#include "tessel/style/text_style.h"
 
 namespace tessel {
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <vector>
 
-#include "guard/wide_text.h"
-#include "tessel/paint/color.h"
+#include "base/wide_text.h"
+#include "tessel/style/color.h"
 #include "tessel/paint/image_file.h"
 
 namespace tessel {

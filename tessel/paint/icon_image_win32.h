@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 
 namespace tessel {
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <sstream>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 
 namespace tessel {
 

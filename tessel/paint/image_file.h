@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 
 namespace tessel {
 

@@ -1,5 +1,5 @@
 // The parts of image_file.h shared by both builds.
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tessel/paint/image_file.h"
 
 namespace tessel {

@@ -7,10 +7,10 @@
 #include <cstdint>
 #include <functional>
 
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 #include "tessel/paint/canvas.h"
-#include "tessel/paint/image.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/image.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel {
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 
 namespace tessel {
 

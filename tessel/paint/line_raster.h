@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 
 namespace tessel {
 

@@ -12,16 +12,16 @@
 #include <memory>
 #include <vector>
 
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 #include "tessel/paint/alpha_bands.h"
-#include "tessel/paint/color.h"
-#include "tessel/paint/image.h"
+#include "tessel/style/color.h"
+#include "tessel/style/image.h"
 #include "tessel/paint/lane_math.h"
-#include "tessel/paint/material_kind.h"
+#include "tessel/style/material_kind.h"
 #include "tessel/paint/material_noise.h"
 #include "tessel/paint/sample_space.h"
 #include "tessel/paint/surface_outline.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel::material_layers {
 

@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-#include "guard/file_system.h"
-#include "guard/win_path.h"
+#include "base/file_system.h"
+#include "base/win_path.h"
 #include "tessel/paint/private_fonts.h"
 
 namespace tessel {

@@ -5,10 +5,10 @@
 
 #include <cstdint>
 
-#include "tessel/core/geometry.h"
-#include "tessel/paint/color.h"
-#include "tessel/paint/image.h"
-#include "tessel/paint/shape_kind.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/color.h"
+#include "tessel/style/image.h"
+#include "tessel/style/shape_kind.h"
 
 namespace tessel {
 

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "tessel/core/geometry.h"
-#include "tessel/paint/shape_kind.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/shape_kind.h"
 
 namespace tessel {
 

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "tessel/paint/color.h"
-#include "tessel/paint/image.h"
+#include "tessel/style/color.h"
+#include "tessel/style/image.h"
 
 namespace tessel {
 

@@ -3,8 +3,8 @@
 // the same choice.
 #pragma once
 
-#include "tessel/core/geometry.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel {
 

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <functional>
 
-#include "tessel/core/rect_extents.h"
+#include "tessel/style/rect_extents.h"
 #include "tessel/paint/bitmap_surface.h"
 #include "tessel/paint/gradient.h"
 #include "tessel/paint/image_canvas.h"

@@ -1,7 +1,7 @@
 #include "tessel/skin/app_skin_catalogue.h"
 
 #include "guard/paths.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "setup/setup_skins.h"
 
 namespace tessel {

@@ -1,4 +1,6 @@
-#include "tessel/skin/control_styles.h"
+#include "tessel/skin/control_style_parsers.h"
+
+#include "tessel/skin/surface_parser.h"
 
 namespace tessel {
 

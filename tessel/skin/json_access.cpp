@@ -4,7 +4,7 @@
 #include <cwchar>
 #include <sstream>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 
 namespace tessel {
 

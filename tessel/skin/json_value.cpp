@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 
 namespace tessel {
 

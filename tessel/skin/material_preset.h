@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "tessel/paint/color.h"
-#include "tessel/paint/material_kind.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/color.h"
+#include "tessel/style/material_kind.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel {
 

@@ -2,7 +2,7 @@
 
 #include <cwctype>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tessel/skin/json_access.h"
 
 namespace tessel {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tessel/skin/json_value.h"
 
 namespace tessel {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "guard/wide_text.h"
-#include "tessel/paint/gradient_words.h"
+#include "base/wide_text.h"
+#include "tessel/skin/skin_words.h"
 #include "tessel/skin/json_access.h"
 #include "tessel/skin/material_preset.h"
 #include "tessel/skin/style_reader.h"

@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "tessel/paint/material_kind.h"
-#include "tessel/paint/shape_kind.h"
+#include "tessel/style/material_kind.h"
+#include "tessel/style/shape_kind.h"
 #include "tessel/skin/json_value.h"
 #include "tessel/skin/property_table.h"
-#include "tessel/skin/surface_mode.h"
+#include "tessel/style/surface_mode.h"
 #include "tessel/skin/theme.h"
 
 namespace tessel {

@@ -3,8 +3,8 @@
 // pressed take the palette's own states, accents use `accent`, disabled uses `disabledFill`.
 #pragma once
 
-#include "tessel/skin/control_styles.h"
-#include "tessel/skin/surface_mode.h"
+#include "tessel/style/control_styles.h"
+#include "tessel/style/surface_mode.h"
 #include "tessel/skin/theme.h"
 
 namespace tessel {

@@ -4,7 +4,8 @@
 #include <cwchar>
 #include <vector>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
+#include "tessel/skin/skin_words.h"
 
 namespace tessel {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "tessel/paint/color.h"
-#include "tessel/paint/shape_kind.h"
+#include "tessel/style/color.h"
+#include "tessel/style/shape_kind.h"
 #include "tessel/skin/property_table.h"
 #include "tessel/skin/theme.h"
 

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "tessel/skin/control_style_parsers.h"
 #include "tessel/skin/material_preset.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/skin/surface_parser.h"
 
 namespace tessel {
 

@@ -8,8 +8,9 @@
 #include <map>
 #include <string>
 
-#include "tessel/skin/control_styles.h"
+#include "tessel/style/control_styles.h"
 #include "tessel/skin/skin_definition.h"
+#include "tessel/skin/style_reader.h"
 
 namespace tessel {
 

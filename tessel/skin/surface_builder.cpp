@@ -1,25 +1,8 @@
 #include "tessel/skin/surface_builder.h"
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 
 namespace tessel {
-
-SurfaceMode parseSurfaceMode(const std::wstring& text) {
-  const std::wstring word = LowerCase(TrimWhiteSpace(text));
-  if (word == L"flat-2d" || word == L"flat2d" || word == L"2d" || word == L"flat") {
-    return SurfaceMode::Flat2d;
-  }
-  if (word == L"textured" || word == L"texture" || word == L"material") {
-    return SurfaceMode::Textured;
-  }
-  if (word == L"bitmap-plates" || word == L"bitmap" || word == L"plates") {
-    return SurfaceMode::BitmapPlates;
-  }
-  if (word == L"windows-clean" || word == L"windows" || word == L"clean") {
-    return SurfaceMode::WindowsClean;
-  }
-  return SurfaceMode::Sculpted3d;
-}
 
 SurfaceStyle buildSurface(const Theme& theme, SurfaceMode mode, const SurfaceRecipe& recipe) {
   SurfaceStyle surface;

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-#include "tessel/skin/surface_mode.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/surface_mode.h"
+#include "tessel/style/surface_style.h"
 #include "tessel/skin/theme.h"
 
 namespace tessel {

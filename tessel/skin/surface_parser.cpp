@@ -3,8 +3,8 @@
 #include <cwchar>
 #include <vector>
 
-#include "guard/wide_text.h"
-#include "tessel/paint/gradient_words.h"
+#include "base/wide_text.h"
+#include "tessel/skin/skin_words.h"
 #include "tessel/paint/image_file.h"
 #include "tessel/skin/material_preset.h"
 

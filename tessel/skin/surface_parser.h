@@ -3,37 +3,12 @@
 // doesn't parse is ignored.
 #pragma once
 
-#include "tessel/paint/bitmap_tint.h"
 #include "tessel/skin/style_reader.h"
-#include "tessel/skin/surface_style.h"
-#include "tessel/skin/text_style.h"
+#include "tessel/style/control_states.h"
+#include "tessel/style/surface_style.h"
+#include "tessel/style/text_style.h"
 
 namespace tessel {
-
-// The surfaces of a button-like control, one per state.
-struct ControlStates {
-  SurfaceStyle normal;
-  SurfaceStyle hot;
-  SurfaceStyle pressed;
-  SurfaceStyle disabled;
-  SurfaceStyle active;
-
-  // All five at once, as a shape or a whole-object value sets them.
-  template <typename F>
-  void each(F&& f) {
-    for (SurfaceStyle* state : {&normal, &hot, &pressed, &disabled, &active})
-      f(*state);
-  }
-};
-
-// Tints of a bitmap button, one per state.
-struct TintStates {
-  BitmapTint normal;
-  BitmapTint hot;
-  BitmapTint pressed;
-  BitmapTint disabled;
-  BitmapTint active;
-};
 
 void parseSurfaceStyle(const StyleReader& reader, SurfaceStyle& surface);
 // The whole object applies to every state, then each state's own member over its copy.

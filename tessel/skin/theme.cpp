@@ -1,6 +1,6 @@
 #include "tessel/skin/theme.h"
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tessel/skin/json_access.h"
 #include "tessel/skin/property_table.h"
 

@@ -2,9 +2,9 @@
 // fifteen colours, so a skin that gives only a theme still colours every control.
 #pragma once
 
-#include "tessel/paint/color.h"
+#include "tessel/style/color.h"
 #include "tessel/skin/json_value.h"
-#include "tessel/skin/text_style.h"
+#include "tessel/style/text_style.h"
 
 namespace tessel {
 

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tessel/skin/json_value.h"
 #include "tessel/skin/property_table.h"
 

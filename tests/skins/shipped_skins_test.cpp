@@ -5,7 +5,7 @@
 
 #include <sstream>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "skin_contrast.h"
 #include "tests/support/source_files.h"
 #include "tessel/skin/skin_catalogue.h"

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tessel/paint/shape_fill.h"
 #include "tessel/paint/shape_geometry.h"
 #include "tessel/paint/stand_in_font.h"

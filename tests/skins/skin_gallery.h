@@ -4,7 +4,7 @@
 // the skin's own colours (stand-in font).
 #pragma once
 
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 #include "tessel/skin/skin_definition.h"
 
 tessel::Image DrawSkinGallery(const tessel::SkinDefinition& skin);

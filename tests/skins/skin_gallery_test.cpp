@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tests/skins/skin_gallery.h"
 #include "tests/support/golden_image.h"
 #include "tests/support/shipped_skins.h"

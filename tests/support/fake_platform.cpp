@@ -2,8 +2,9 @@
 
 #include <cwctype>
 
+#include "guard/install_folder.h"
 #include "guard/log.h"
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "update/update_check.h"
 #include "i18n/locale_system.h"
 #include "setup/setup_skins.h"

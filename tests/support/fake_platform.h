@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "guard/file_system.h"
+#include "base/file_system.h"
 #include "guard/local_time.h"
 
 struct FakeHttpResponse {

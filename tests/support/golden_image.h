@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 
 bool WritePamImage(const std::filesystem::path& path, const tessel::Image& image);
 // False on a missing file or anything but an 8-bit, four-channel P7 file.

@@ -7,7 +7,7 @@
 
 #include <filesystem>
 
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 
 bool WritePngImage(const std::filesystem::path& path, const tessel::Image& image);
 // False on a missing or damaged file or on a form the writer doesn't produce.

@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
-#include "tessel/paint/image.h"
-#include "tessel/skin/surface_style.h"
-#include "tessel/skin/text_style.h"
+#include "tessel/style/image.h"
+#include "tessel/style/surface_style.h"
+#include "tessel/style/text_style.h"
 
 namespace tessel {
 

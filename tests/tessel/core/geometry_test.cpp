@@ -1,4 +1,4 @@
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 
 #include <gtest/gtest.h>
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 #include "tessel/paint/image_file.h"
 #include "tests/support/source_files.h"
 

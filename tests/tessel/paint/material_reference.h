@@ -3,9 +3,9 @@
 // one step per channel of it.
 #pragma once
 
-#include "tessel/core/geometry.h"
-#include "tessel/paint/image.h"
-#include "tessel/skin/surface_style.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/image.h"
+#include "tessel/style/surface_style.h"
 
 namespace tessel::reference {
 

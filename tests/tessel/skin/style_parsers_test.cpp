@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "tessel/skin/control_styles.h"
+#include "tessel/skin/control_style_parsers.h"
+#include "tessel/skin/surface_parser.h"
 #include "tessel/skin/style_builders.h"
 
 namespace tessel {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tessel/paint/gradient_words.h"
+#include "tessel/skin/skin_words.h"
 #include "tessel/skin/surface_builder.h"
 
 namespace tessel {

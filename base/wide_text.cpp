@@ -1,4 +1,4 @@
-#include "guard/wide_text.h"
+#include "base/wide_text.h"
 
 #include <cstdint>
 #include <cwchar>

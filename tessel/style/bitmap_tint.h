@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "tessel/paint/color.h"
+#include "tessel/style/color.h"
 
 namespace tessel {
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 namespace tessel {
 
@@ -13,8 +12,5 @@ enum class SurfaceMode : int32_t {
   BitmapPlates = 3,
   WindowsClean = 4,
 };
-
-// Trimmed and lower-cased; any word that isn't known gives Sculpted3d.
-SurfaceMode parseSurfaceMode(const std::wstring& text);
 
 }  // namespace tessel

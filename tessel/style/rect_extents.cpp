@@ -1,4 +1,4 @@
-#include "tessel/core/rect_extents.h"
+#include "tessel/style/rect_extents.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "tessel/paint/image.h"
+#include "tessel/style/image.h"
 
 #include <algorithm>
 

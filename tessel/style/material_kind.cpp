@@ -1,4 +1,4 @@
-#include "tessel/paint/material_kind.h"
+#include "tessel/style/material_kind.h"
 
 namespace tessel {
 

@@ -1,14 +1,13 @@
 // The style record of every control kind: plain values that a control copies from the sheet
 // and paints from. Metrics carry their defaults here; colours come from the style builders.
-// Each record has a parser that lays a skin's flattened keys over it.
 #pragma once
 
 #include <cstdint>
 
-#include "tessel/paint/color.h"
-#include "tessel/skin/surface_parser.h"
-#include "tessel/skin/surface_style.h"
-#include "tessel/skin/text_style.h"
+#include "tessel/style/color.h"
+#include "tessel/style/control_states.h"
+#include "tessel/style/surface_style.h"
+#include "tessel/style/text_style.h"
 
 namespace tessel {
 
@@ -363,29 +362,5 @@ struct WindowStyle {
   bool clipRegionOnResize = true;
   int32_t resizeBorderThickness = 6;
 };
-
-void parseScrollAcceleration(const StyleReader& reader, ScrollAcceleration& acceleration);
-
-void parseButtonStyle(const StyleReader& reader, ButtonStyle& style);
-void parseBitmapButtonStyle(const StyleReader& reader, BitmapButtonStyle& style);
-void parsePanelStyle(const StyleReader& reader, PanelStyle& style);
-void parseCardStyle(const StyleReader& reader, CardStyle& style);
-void parseChromeTitleBarStyle(const StyleReader& reader, ChromeTitleBarStyle& style);
-void parseStatusChipStyle(const StyleReader& reader, StatusChipStyle& style);
-void parseProgressBarStyle(const StyleReader& reader, ProgressBarStyle& style);
-void parseScrollBarStyle(const StyleReader& reader, ScrollBarStyle& style);
-void parseCheckBoxStyle(const StyleReader& reader, CheckBoxStyle& style);
-void parseSelectBoxStyle(const StyleReader& reader, SelectBoxStyle& style);
-void parseHierarchicalListBoxStyle(const StyleReader& reader, HierarchicalListBoxStyle& style);
-void parseDateInputStyle(const StyleReader& reader, DateInputStyle& style);
-void parseTabStripStyle(const StyleReader& reader, TabStripStyle& style);
-void parseMenuBarStyle(const StyleReader& reader, MenuBarStyle& style);
-void parseTableListStyle(const StyleReader& reader, TableListStyle& style);
-void parseRichTextStyle(const StyleReader& reader, RichTextStyle& style);
-void parseTextInputStyle(const StyleReader& reader, TextInputStyle& style);
-void parseSelectableTextStyle(const StyleReader& reader, SelectableTextStyle& style);
-void parsePopupStyle(const StyleReader& reader, PopupStyle& style);
-void parseTooltipStyle(const StyleReader& reader, TooltipStyle& style);
-void parseWindowStyle(const StyleReader& reader, WindowStyle& style);
 
 }  // namespace tessel

@@ -1,4 +1,4 @@
-#include "guard/win_path.h"
+#include "base/win_path.h"
 
 #include <vector>
 

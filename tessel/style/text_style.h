@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "tessel/paint/color.h"
+#include "tessel/style/color.h"
 
 namespace tessel {
 

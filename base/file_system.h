@@ -21,7 +21,3 @@ bool IsDirectory(const std::wstring& path);
 // False when the folder could not be made; most callers ignore that.
 bool CreateDirectoryTree(const std::wstring& path);
 void ShellOpen(const std::wstring& path);  // verb "open", normal show state
-
-// The value InstallLocation under HKLM\`key` when it is REG_SZ or REG_EXPAND_SZ (not expanded) and
-// its first character is not zero; read into 260 characters.
-bool ReadInstallLocation(const wchar_t* key, std::wstring& out);

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-#include "tessel/core/geometry.h"
+#include "tessel/style/geometry.h"
 
 namespace tessel {
 

@@ -5,12 +5,12 @@
 
 #include <cstdint>
 
-#include "tessel/core/geometry.h"
-#include "tessel/paint/bitmap_tint.h"
-#include "tessel/paint/color.h"
-#include "tessel/paint/image.h"
-#include "tessel/paint/material_kind.h"
-#include "tessel/paint/shape_kind.h"
+#include "tessel/style/geometry.h"
+#include "tessel/style/bitmap_tint.h"
+#include "tessel/style/color.h"
+#include "tessel/style/image.h"
+#include "tessel/style/material_kind.h"
+#include "tessel/style/shape_kind.h"
 
 namespace tessel {
 

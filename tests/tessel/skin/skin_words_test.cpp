@@ -1,4 +1,4 @@
-#include "tessel/paint/shape_kind.h"
+#include "tessel/skin/skin_words.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tessel/paint/color.h"
+#include "tessel/style/color.h"
 
 #include <cmath>
 #include <initializer_list>

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 namespace tessel {
 
@@ -25,18 +24,11 @@ struct ShapeStyle {
   bool present = false;
 };
 
-// Reads a skin's spelling ("pill", "cut-corner", ...) after trimming and lower-casing.
-// An unknown spelling returns false and leaves `kind` as it was.
-bool parseShapeKind(const std::wstring& text, ShapeKind& kind);
-
 enum class GeometryMode : int32_t {
   FallbackShape = 0,
   SkinAlphaHitTest = 1,
   SkinAlphaLayout = 2,
   MaskAlphaLayout = 3,
 };
-
-// Reads a geometry mode word, compared after key normalization ("skin_alpha_hit_test").
-bool parseGeometryMode(const std::wstring& text, GeometryMode& mode);
 
 }  // namespace tessel

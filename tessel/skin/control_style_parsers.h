@@ -1,0 +1,34 @@
+// One parser per control kind's style record: each lays a skin's flattened keys, under the
+// reader's prefix, over the record. Absent keys keep what the record held.
+#pragma once
+
+#include "tessel/skin/style_reader.h"
+#include "tessel/style/control_styles.h"
+
+namespace tessel {
+
+void parseScrollAcceleration(const StyleReader& reader, ScrollAcceleration& acceleration);
+
+void parseButtonStyle(const StyleReader& reader, ButtonStyle& style);
+void parseBitmapButtonStyle(const StyleReader& reader, BitmapButtonStyle& style);
+void parsePanelStyle(const StyleReader& reader, PanelStyle& style);
+void parseCardStyle(const StyleReader& reader, CardStyle& style);
+void parseChromeTitleBarStyle(const StyleReader& reader, ChromeTitleBarStyle& style);
+void parseStatusChipStyle(const StyleReader& reader, StatusChipStyle& style);
+void parseProgressBarStyle(const StyleReader& reader, ProgressBarStyle& style);
+void parseScrollBarStyle(const StyleReader& reader, ScrollBarStyle& style);
+void parseCheckBoxStyle(const StyleReader& reader, CheckBoxStyle& style);
+void parseSelectBoxStyle(const StyleReader& reader, SelectBoxStyle& style);
+void parseHierarchicalListBoxStyle(const StyleReader& reader, HierarchicalListBoxStyle& style);
+void parseDateInputStyle(const StyleReader& reader, DateInputStyle& style);
+void parseTabStripStyle(const StyleReader& reader, TabStripStyle& style);
+void parseMenuBarStyle(const StyleReader& reader, MenuBarStyle& style);
+void parseTableListStyle(const StyleReader& reader, TableListStyle& style);
+void parseRichTextStyle(const StyleReader& reader, RichTextStyle& style);
+void parseTextInputStyle(const StyleReader& reader, TextInputStyle& style);
+void parseSelectableTextStyle(const StyleReader& reader, SelectableTextStyle& style);
+void parsePopupStyle(const StyleReader& reader, PopupStyle& style);
+void parseTooltipStyle(const StyleReader& reader, TooltipStyle& style);
+void parseWindowStyle(const StyleReader& reader, WindowStyle& style);
+
+}  // namespace tessel
