@@ -1,10 +1,12 @@
 # The portable sources: no <windows.h>, built natively and for Windows alike.
 set(STAYHOLD_PORTABLE_SOURCES
-  guard/app_config.cpp
+  guard/app_skins.cpp
   guard/config_store.cpp
+  guard/guard_state.cpp
   guard/guard_status.cpp
   guard/guard_text.cpp
   guard/install_folder.cpp
+  guard/install_paths.cpp
   guard/log_line.cpp
   guard/paths.cpp
   guard/update_policy.cpp
@@ -15,7 +17,6 @@ set(STAYHOLD_PORTABLE_SOURCES
   i18n/language_picker.cpp
   i18n/locale_table.cpp
   i18n/localized.cpp
-  setup/install_paths.cpp
   setup/payload.cpp
   setup/quote_argument.cpp
   setup/registration.cpp
@@ -79,7 +80,6 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/surface_painter.cpp
   tessel/paint/ui_performance.cpp
   tessel/paint/gradient.cpp
-  tessel/skin/app_skin_catalogue.cpp
   tessel/skin/control_style_parsers.cpp
   tessel/skin/json_access.cpp
   tessel/skin/json_value.cpp
@@ -87,6 +87,7 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/skin/property_table.cpp
   tessel/skin/skin_catalogue.cpp
   tessel/skin/skin_definition.cpp
+  tessel/skin/skin_picker.cpp
   tessel/skin/style_builders.cpp
   tessel/skin/style_reader.cpp
   tessel/skin/style_sheet.cpp

@@ -56,6 +56,3 @@ struct StayholdConfig {
   bool has_settings_ui_state = false;
   WindowUiState settings_ui_state;
 };
-
-// The process-wide configuration; exists with its defaults from the first instruction.
-StayholdConfig& AppConfig();

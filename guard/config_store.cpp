@@ -5,10 +5,11 @@
 #include <cwctype>
 
 #include "base/file_system.h"
-#include "guard/paths.h"
 #include "base/wide_text.h"
+#include "guard/app_skins.h"
+#include "guard/paths.h"
 #include "i18n/language.h"
-#include "tessel/skin/app_skin_catalogue.h"
+#include "tessel/skin/skin_picker.h"
 
 namespace {
 
@@ -136,9 +137,10 @@ WindowUiState NormalizeUiState(WindowUiState state) {
   return state;
 }
 
-StayholdConfig NormalizeConfig(StayholdConfig config) {
+StayholdConfig NormalizeConfig(StayholdConfig config,
+                               const std::vector<tessel::SkinDefinition>& skins) {
   config.language = NormalizeLanguageSetting(config.language);
-  config.skin_id = tessel::repairedSkinId(tessel::appSkinCatalogue(), config.skin_id);
+  config.skin_id = tessel::repairedSkinId(skins, config.skin_id);
   config.ui_performance_profile = NormalizeUiPerformanceProfile(config.ui_performance_profile);
   for (BehaviorProfile& profile : config.profiles) {
     profile.name = TrimWhiteSpace(profile.name);
@@ -225,7 +227,7 @@ bool WriteUiState(ProfileStore& store, const std::wstring& path, const WindowUiS
   return ok;
 }
 
-StayholdConfig LoadConfig(ProfileStore& store) {
+StayholdConfig LoadConfig(ProfileStore& store, const std::vector<tessel::SkinDefinition>& skins) {
   StayholdConfig config;
   const std::wstring path = ConfigFilePath();
   const bool exists = IsRegularFile(path);
@@ -261,14 +263,15 @@ StayholdConfig LoadConfig(ProfileStore& store) {
       config.has_settings_ui_state = true;
     }
   }
-  config = NormalizeConfig(std::move(config));
+  config = NormalizeConfig(std::move(config), skins);
   // A first start creates the file and a legacy layout is rewritten in the present one.
-  if (!exists || profile_count == 0) SaveConfig(store, config);
+  if (!exists || profile_count == 0) SaveConfig(store, config, skins);
   return config;
 }
 
-bool SaveConfig(ProfileStore& store, const StayholdConfig& original) {
-  const StayholdConfig config = NormalizeConfig(original);
+bool SaveConfig(ProfileStore& store, const StayholdConfig& original,
+                const std::vector<tessel::SkinDefinition>& skins) {
+  const StayholdConfig config = NormalizeConfig(original, skins);
   const std::wstring path = ConfigFilePath();
   const size_t slash = path.find_last_of(L'\\');
   if (slash == std::wstring::npos || !CreateDirectoryTree(path.substr(0, slash))) return false;
@@ -313,8 +316,8 @@ bool SaveConfig(ProfileStore& store, const StayholdConfig& original) {
 }
 
 StayholdConfig LoadConfig() {
-  return LoadConfig(SystemProfileStore());
+  return LoadConfig(SystemProfileStore(), AppSkinCatalogue());
 }
 bool SaveConfig(const StayholdConfig& config) {
-  return SaveConfig(SystemProfileStore(), config);
+  return SaveConfig(SystemProfileStore(), config, AppSkinCatalogue());
 }

@@ -6,6 +6,7 @@
 #include "guard/build_facts.h"
 #include "guard/config_store.h"
 #include "guard/guard_messages.h"
+#include "guard/guard_state.h"
 #include "guard/guard_status.h"
 #include "guard/log.h"
 #include "guard/paths.h"

@@ -8,16 +8,19 @@
 #include <vector>
 
 #include "guard/app_icon_win32.h"
+#include "guard/app_skins.h"
 #include "guard/build_facts.h"
-#include "guard/config.h"
+#include "guard/guard_state.h"
 #include "guard/config_store.h"
 #include "guard/hidden_window_win32.h"
 #include "guard/log.h"
 #include "guard/paths.h"
 #include "guard/startup_options.h"
 #include "guard/update_policy.h"
+#include "i18n/language.h"
 #include "i18n/localized.h"
 #include "setup/setup_actions.h"
+#include "setup/setup_skins.h"
 #include "tray/notice.h"
 
 namespace {
@@ -114,8 +117,14 @@ int RunGuard(HINSTANCE instance) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR command_line, int) {
+  // Every text from here on speaks the configured language.
+  SetLanguageSettingReader(&ConfiguredLanguage);
   const StartupOptions options = ParseStartupOptions(command_line);
   exit_after_ms = options.exit_after_ms;
+  // The setup carries skin files: written to their cache before the configuration is loaded, so
+  // that its skin id is repaired against them and the setup's own dialogs wear them. The guard
+  // carries none and writes nothing.
+  if (!WriteSetupSkins().empty()) UseSetupSkinCache(SetupSkinCacheFolder());
   AppConfig() = LoadConfig();
   open_settings_at_start = options.settings;
   const std::wstring install_dir = InstallDirFromArguments();

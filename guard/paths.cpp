@@ -3,7 +3,7 @@
 #include "base/file_system.h"
 #include "guard/install_folder.h"
 #include "base/win_path.h"
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 
 namespace {
 

@@ -2,9 +2,26 @@
 
 #include <cwctype>
 
-#include "guard/config.h"
 #include "base/wide_text.h"
 #include "i18n/locale_system.h"
+
+namespace {
+
+LanguageSettingReader& RegisteredReader() {
+  static LanguageSettingReader reader = nullptr;
+  return reader;
+}
+
+}  // namespace
+
+void SetLanguageSettingReader(LanguageSettingReader reader) {
+  RegisteredReader() = reader;
+}
+
+std::wstring LanguageSetting() {
+  const LanguageSettingReader reader = RegisteredReader();
+  return reader ? reader() : std::wstring(L"auto");
+}
 
 std::wstring CanonicalizeTag(const std::wstring& text) {
   std::wstring tag = TrimWhiteSpace(text);
@@ -57,7 +74,7 @@ std::wstring NormalizeLanguageSetting(const std::wstring& text) {
 }
 
 std::wstring EffectiveLanguageTag() {
-  const std::wstring setting = NormalizeLanguageSetting(AppConfig().language);
+  const std::wstring setting = NormalizeLanguageSetting(LanguageSetting());
   if (setting != L"auto") return setting;
   const std::wstring system = SystemUiLocaleName();
   if (system.empty()) return L"en-US";

@@ -7,6 +7,13 @@
 
 #include "i18n/locale_table.h"
 
+// Where the setting is read: the application registers a reader of its configuration before the
+// first text. Without one (or with null) the setting reads "auto".
+using LanguageSettingReader = std::wstring (*)();
+void SetLanguageSettingReader(LanguageSettingReader reader);
+// The setting as the registered reader gives it now, not normalized.
+std::wstring LanguageSetting();
+
 // Trimmed, lower-case, '_' turned into '-'.
 std::wstring CanonicalizeTag(const std::wstring& text);
 // The canonical tag up to its first '-'; "nb" and "nn" both become "no".

@@ -1,6 +1,5 @@
 #include "i18n/language_picker.h"
 
-#include "guard/config.h"
 #include "i18n/language.h"
 #include "i18n/locale_system.h"
 #include "i18n/localized.h"
@@ -29,7 +28,7 @@ std::vector<std::wstring> LanguagePickerItems() {
 }
 
 int LanguagePickerIndex() {
-  const std::wstring& language = AppConfig().language;
+  const std::wstring language = LanguageSetting();
   if (language == L"auto") return 0;
   const int index = LocaleTableIndex(language);
   return index < 0 ? 0 : index + 1;

@@ -11,7 +11,7 @@
 #include "guard/paths.h"
 #include "guard/update_policy.h"
 #include "base/wide_text.h"
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 #include "setup/payload.h"
 #include "setup/quote_argument.h"
 #include "setup/setup_failure.h"

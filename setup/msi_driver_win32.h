@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 
 inline constexpr wchar_t kUpgradeCode[] = L"{7C2E915B-3F4A-4D68-9B1E-5A60C3D7E214}";
 

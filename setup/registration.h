@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 
 // The folder of the current installation (never empty), and the normalization it uses.
 std::wstring GetInstallLocation();

@@ -11,7 +11,7 @@
 #include "base/wide_text.h"
 #include "base/win_path.h"
 #include "i18n/localized.h"
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 #include "setup/msi_driver_win32.h"
 #include "setup/payload.h"
 #include "setup/payload_win32.h"

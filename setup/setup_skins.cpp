@@ -4,7 +4,7 @@
 #include "guard/install_folder.h"
 #include "base/wide_text.h"
 #include "base/win_path.h"
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 
 std::vector<PayloadRow> SetupSkinRows(const PayloadRow* table) {
   std::vector<PayloadRow> rows;

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 
 inline constexpr wchar_t kAppUserModelIdApp[] = L"Marlowen.Stayhold.App";
 

@@ -3,14 +3,15 @@
 #include <functional>
 #include <memory>
 
-#include "guard/config.h"
+#include "guard/app_skins.h"
+#include "guard/guard_state.h"
 #include "guard/paths.h"
 #include "i18n/localized.h"
 #include "tessel/controls/chrome_title_bar.h"
 #include "tessel/controls/designed_popup.h"
 #include "tessel/core/dialog_window_win32.h"
 #include "tessel/paint/icon_image_win32.h"
-#include "tessel/skin/app_skin_catalogue.h"
+#include "tessel/skin/skin_catalogue.h"
 #include "tessel/skin/style_sheet.h"
 #include "tray/notice.h"
 
@@ -71,7 +72,7 @@ void AddChrome(HINSTANCE instance, DialogWindow& dialog, HWND hwnd, const tessel
 // button. `actions` receives the dialog so that its handlers can end it.
 DialogResult RunNotice(HINSTANCE instance, const NoticeLook& look,
                        const std::function<std::vector<PopupAction>(DialogWindow&)>& actions) {
-  const tessel::SkinDefinition* skin = tessel::findSkinOrDefault(AppConfig().skin_id);
+  const tessel::SkinDefinition* skin = FindAppSkinOrDefault(AppConfig().skin_id);
   const tessel::Theme theme = ThemeOf(skin);
   const tessel::StyleSheet sheet =
       skin != nullptr ? tessel::StyleSheet(*skin) : tessel::StyleSheet(theme);

@@ -69,6 +69,13 @@ void mergeSkins(std::vector<SkinDefinition>& target, const std::vector<SkinDefin
     addOrReplace(target, skin);
 }
 
+std::vector<SkinDefinition> assembleSkinCatalogue(const std::vector<std::wstring>& folders) {
+  std::vector<SkinDefinition> catalogue;
+  for (const std::wstring& folder : folders)
+    mergeSkins(catalogue, loadSkinFolder(folder));
+  return catalogue;
+}
+
 const SkinDefinition* findSkinOrDefault(const std::vector<SkinDefinition>& catalogue,
                                         const std::wstring& id) {
   const std::wstring trimmed = TrimWhiteSpace(id);

@@ -21,6 +21,10 @@ std::vector<SkinDefinition> loadSkinFolder(const std::wstring& folder);
 // Each skin of `source` replaces the entry of `target` with its id in place, or is appended.
 void mergeSkins(std::vector<SkinDefinition>& target, const std::vector<SkinDefinition>& source);
 
+// The skins of the folders merged in order, weakest first: a later folder's skin takes the place
+// of an earlier one with its id. An empty or missing folder adds nothing.
+std::vector<SkinDefinition> assembleSkinCatalogue(const std::vector<std::wstring>& folders);
+
 // The skin an id stands for: the trimmed id, else "win11-auto", else the first; null if none.
 const SkinDefinition* findSkinOrDefault(const std::vector<SkinDefinition>& catalogue,
                                         const std::wstring& id);

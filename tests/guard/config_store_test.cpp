@@ -25,6 +25,16 @@ std::wstring ValueOr(const wchar_t* section, const wchar_t* key, const wchar_t* 
   return value ? *value : missing;
 }
 
+std::vector<tessel::SkinDefinition> Skins(std::initializer_list<const wchar_t*> ids) {
+  std::vector<tessel::SkinDefinition> skins;
+  for (const wchar_t* id : ids) {
+    tessel::SkinDefinition skin;
+    skin.id = id;
+    skins.push_back(skin);
+  }
+  return skins;
+}
+
 ControlUiState Control(const wchar_t* id) {
   ControlUiState control;
   control.id = id;
@@ -94,7 +104,7 @@ TEST(NormalizeConfig, RepairsEveryField) {
   config.profiles = {BehaviorProfile{L"  Work  ", {{true, 9, -4, 5000}, {false, 2, 60, 120}}},
                      BehaviorProfile{L"", {}}};
   config.active_profile_index = 5;
-  const StayholdConfig normal = NormalizeConfig(config);
+  const StayholdConfig normal = NormalizeConfig(config, {});
   EXPECT_EQ(normal.language, L"de-DE");
   EXPECT_EQ(normal.skin_id, L"win11-auto");
   EXPECT_EQ(normal.ui_performance_profile, L"maximum-performance");
@@ -103,11 +113,30 @@ TEST(NormalizeConfig, RepairsEveryField) {
   EXPECT_TRUE(normal.profiles[0].windows[1] == (RestartWindow{false, 2, 60, 120}));
   EXPECT_EQ(normal.active_profile_index, 1);
   config.active_profile_index = -2;
-  EXPECT_EQ(NormalizeConfig(config).active_profile_index, 0);
+  EXPECT_EQ(NormalizeConfig(config, {}).active_profile_index, 0);
+}
+
+TEST(NormalizeConfig, SkinIdResolvesAmongTheOfferedSkins) {
+  const struct {
+    const char* what;
+    std::vector<tessel::SkinDefinition> skins;
+    const wchar_t* stored;
+    const wchar_t* normal;
+  } cases[] = {
+      {"an offered skin in its own spelling", Skins({L"classic", L"Custom-Skin"}), L" custom-SKIN ",
+       L"Custom-Skin"},
+      {"a skin that is gone", Skins({L"classic", L"win11-auto"}), L"custom-skin", L"win11-auto"},
+      {"nothing offered", {}, L"classic", L"win11-auto"},
+  };
+  for (const auto& c : cases) {
+    StayholdConfig config;
+    config.skin_id = c.stored;
+    EXPECT_EQ(NormalizeConfig(config, c.skins).skin_id, c.normal) << c.what;
+  }
 }
 
 TEST(NormalizeConfig, NoProfileGetsOneEmptyProfile) {
-  const StayholdConfig normal = NormalizeConfig(StayholdConfig{});
+  const StayholdConfig normal = NormalizeConfig(StayholdConfig{}, {});
   ASSERT_EQ(normal.profiles.size(), 1u);
   EXPECT_TRUE(normal.profiles[0].name.empty());
   EXPECT_TRUE(normal.profiles[0].windows.empty());
@@ -123,7 +152,7 @@ TEST(NormalizeConfig, UiStateKeepsOnlyTheTableAndItsScrollBar) {
     config.settings_ui_state.controls = {Control(L"settings-window-table"),
                                          Control(L"settings-window-name"),
                                          Control(L"settings-window-scroll")};
-    const WindowUiState state = NormalizeConfig(config).settings_ui_state;
+    const WindowUiState state = NormalizeConfig(config, {}).settings_ui_state;
     EXPECT_EQ(state.show_command, command == 3 ? 3 : 1) << command;
     EXPECT_FALSE(state.minimized);
     ASSERT_EQ(state.controls.size(), 2u);
@@ -183,6 +212,17 @@ TEST(LoadConfig, NewerSwitchWinsOverTheOlderOne) {
     EXPECT_EQ(LoadConfig().guard_enabled, c.enabled)
         << (c.legacy ? "legacy " : "") << (c.current ? "current" : "");
   }
+}
+
+TEST(LoadConfig, TheStoredSkinIsRepairedAmongTheGivenSkinsAndSavedSo) {
+  MemoryStore().Put(Path(), File{{L"general", {{L"skin_id", L"CUSTOM-skin"}}}});
+  EXPECT_EQ(LoadConfig(MemoryStore(), Skins({L"classic", L"custom-skin"})).skin_id, L"custom-skin");
+  // The file had no profiles, so the load rewrote it with the repaired id.
+  EXPECT_EQ(ValueOr(L"general", L"skin_id", L"?"), L"custom-skin");
+  StayholdConfig config;
+  config.skin_id = L"custom-skin";
+  ASSERT_TRUE(SaveConfig(MemoryStore(), config, Skins({L"classic"})));
+  EXPECT_EQ(ValueOr(L"general", L"skin_id", L"?"), L"classic");
 }
 
 TEST(LoadConfig, WindowValuesBlankAreDroppedBadAreDefaulted) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "guard/guard_state.h"
 #include "guard/guard_status.h"
 #include "i18n/language.h"
 #include "i18n/string_table.h"

@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/config.h"
+#include "guard/guard_state.h"
+#include "i18n/language_picker.h"
 #include "i18n/localized.h"
 #include "tests/support/fake_platform.h"
 
@@ -93,6 +94,27 @@ TEST(EffectiveLanguageTag, AutoUsesWindowsOrEnUs) {
   EXPECT_EQ(EffectiveLanguageTag(), L"auto");
   AppConfig().language = L"es";
   EXPECT_EQ(EffectiveLanguageTag(), L"es-MX");
+}
+
+std::wstring reader_setting;
+std::wstring ReadSetting() {
+  return reader_setting;
+}
+
+TEST(LanguageSetting, ReadAtEveryLookupAndAutoWithoutAReader) {
+  Fake().ui_locale = L"ja-JP";
+  AppConfig().language = L"cs-CZ";  // the application's reader is replaced below
+  SetLanguageSettingReader(nullptr);
+  EXPECT_EQ(LanguageSetting(), L"auto");
+  EXPECT_EQ(EffectiveLanguageTag(), L"ja-JP");
+  EXPECT_EQ(LanguagePickerIndex(), 0);
+
+  SetLanguageSettingReader(&ReadSetting);
+  reader_setting = L"de";
+  EXPECT_EQ(EffectiveLanguageTag(), L"de-DE");
+  reader_setting = L"cs";  // nothing is cached
+  EXPECT_EQ(Localized(L"Ahoj", L"Hello"), L"Ahoj");
+  EXPECT_EQ(LanguagePickerIndex(), 8);
 }
 
 TEST(LanguageColumnIndex, PositionsInColumnOrder) {

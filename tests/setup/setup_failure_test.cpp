@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/config.h"
+#include "guard/guard_state.h"
 #include "tests/support/fake_platform.h"
 
 namespace {

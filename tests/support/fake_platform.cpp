@@ -7,7 +7,6 @@
 #include "base/wide_text.h"
 #include "update/update_check.h"
 #include "i18n/locale_system.h"
-#include "setup/setup_skins.h"
 #include "tests/support/fake_machine_registry.h"
 #include "tests/support/memory_profile_store.h"
 
@@ -143,9 +142,4 @@ bool FetchUpdateManifest(const std::wstring& url, std::wstring& text, std::wstri
   }
   text = found->second.text;
   return true;
-}
-
-// The native build carries no embedded skin files.
-std::vector<std::wstring> WriteSetupSkins() {
-  return {};
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "guard/config.h"
+#include "guard/guard_state.h"
+#include "i18n/language.h"
 #include "tests/support/fake_platform.h"
 
 namespace {
@@ -10,6 +11,8 @@ class FreshState : public ::testing::EmptyTestEventListener {
   void OnTestStart(const ::testing::TestInfo&) override {
     ResetFakePlatform();
     AppConfig() = StayholdConfig();
+    // As the application does at start: the interface speaks the configuration's language.
+    SetLanguageSettingReader(&ConfiguredLanguage);
   }
 };
 

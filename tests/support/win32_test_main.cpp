@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 
-#include "guard/config.h"
+#include "guard/guard_state.h"
+#include "i18n/language.h"
 
 namespace {
 
 class FreshConfig : public ::testing::EmptyTestEventListener {
-  void OnTestStart(const ::testing::TestInfo&) override { AppConfig() = StayholdConfig(); }
+  void OnTestStart(const ::testing::TestInfo&) override {
+    AppConfig() = StayholdConfig();
+    // As the application does at start: the interface speaks the configuration's language.
+    SetLanguageSettingReader(&ConfiguredLanguage);
+  }
 };
 
 }  // namespace

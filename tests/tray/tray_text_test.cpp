@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/config.h"
+#include "guard/guard_state.h"
 #include "i18n/language.h"
 #include "i18n/string_table.h"
 #include "tests/support/fake_platform.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "guard/config.h"
+#include "guard/guard_state.h"
 #include "guard/guard_messages.h"
 #include "guard/hidden_window_win32.h"
 #include "i18n/language.h"

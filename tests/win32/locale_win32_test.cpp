@@ -1,7 +1,7 @@
 // Day names and the language fall-backs with the platform's real locale data.
 #include <gtest/gtest.h>
 
-#include "guard/config.h"
+#include "guard/guard_state.h"
 #include "guard/guard_text.h"
 #include "i18n/language.h"
 #include "i18n/language_picker.h"

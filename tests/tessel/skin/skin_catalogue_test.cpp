@@ -74,6 +74,29 @@ TEST_F(SkinFolder, RecordsRememberTheirFolder) {
   EXPECT_EQ(std::filesystem::path(skins[0].sourceDirectory), folder_);
 }
 
+TEST_F(SkinFolder, FoldersAssembleWeakestFirst) {
+  for (const char* place : {"cache", "installed", "beside"})
+    std::filesystem::create_directories(folder_ / place);
+  write("cache/00-default.json",
+        R"({"skins":[{"id":"win11-auto","name":"Embedded"},{"id":"classic","name":"Classic"}]})");
+  write("installed/00-default.json", R"([{"id":"WIN11-AUTO","name":"Installed"}])");
+  write("beside/90-mine.json", R"([{"id":"classic","name":"Mine"},{"id":"extra","name":"Extra"}])");
+  std::vector<std::wstring> ids;
+  for (const SkinDefinition& s :
+       assembleSkinCatalogue({(folder_ / "cache").wstring(), (folder_ / "installed").wstring(),
+                              (folder_ / "beside").wstring()}))
+    ids.push_back(s.id + L"=" + s.name);
+  EXPECT_EQ(ids,
+            (std::vector<std::wstring>{L"WIN11-AUTO=Installed", L"classic=Mine", L"extra=Extra"}));
+
+  // Missing and empty folders add nothing.
+  EXPECT_EQ(
+      assembleSkinCatalogue({L"", (folder_ / "none").wstring(), (folder_ / "installed").wstring()})
+          .size(),
+      1u);
+  EXPECT_TRUE(assembleSkinCatalogue({L"", (folder_ / "none").wstring()}).empty());
+}
+
 TEST_F(SkinFolder, MissingOrEmptyFolder) {
   EXPECT_TRUE(loadSkinFolder(L"").empty());
   EXPECT_TRUE(loadSkinFolder((folder_ / "missing").wstring()).empty());

@@ -1,4 +1,4 @@
-#include "setup/install_paths.h"
+#include "guard/install_paths.h"
 
 #include "base/file_system.h"
 #include "guard/install_folder.h"

@@ -1,6 +1,0 @@
-#include "guard/config.h"
-
-StayholdConfig& AppConfig() {
-  static StayholdConfig config;
-  return config;
-}
