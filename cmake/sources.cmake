@@ -111,9 +111,9 @@ set(STAYHOLD_WIN32_SOURCES
   tessel/paint/icon_image_win32.cpp
   tessel/core/window_win32.cpp
   tessel/core/dialog_window_win32.cpp
+  app/hidden_window_win32.cpp
   guard/app_icon_win32.cpp
   base/file_system_win32.cpp
-  guard/hidden_window_win32.cpp
   guard/install_folder_win32.cpp
   guard/local_time_win32.cpp
   guard/log_win32.cpp

@@ -17,17 +17,17 @@ add_custom_command(
   COMMENT "Drawing the application icon")
 add_custom_target(stayhold_icon DEPENDS ${STAYHOLD_ICON_FILE})
 
-set(STAYHOLD_MANIFEST_FILE ${CMAKE_SOURCE_DIR}/guard/resources/app.manifest)
+set(STAYHOLD_MANIFEST_FILE ${CMAKE_SOURCE_DIR}/app/resources/app.manifest)
 
 function(stayhold_executable target exe_base description)
   set(STAYHOLD_EXE_BASE ${exe_base})
   set(STAYHOLD_EXE_NAME ${exe_base}.exe)
   set(STAYHOLD_FILE_DESCRIPTION ${description})
   set(rc ${CMAKE_BINARY_DIR}/generated/${exe_base}.rc)
-  configure_file(${CMAKE_SOURCE_DIR}/guard/resources/stayhold.rc.in ${rc} @ONLY)
+  configure_file(${CMAKE_SOURCE_DIR}/app/resources/stayhold.rc.in ${rc} @ONLY)
   set_source_files_properties(${rc} PROPERTIES
     OBJECT_DEPENDS "${STAYHOLD_ICON_FILE};${STAYHOLD_MANIFEST_FILE};${CMAKE_SOURCE_DIR}/guard/version.h")
-  add_executable(${target} WIN32 guard/main_win32.cpp ${rc})
+  add_executable(${target} WIN32 app/main_win32.cpp ${rc})
   add_dependencies(${target} stayhold_icon)
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ${exe_base})
   target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})

@@ -1,5 +1,6 @@
 // The numbers the running guard answers to: its private window messages, the tray menu's
-// command ids (a second instance posts 1006 too), and the hidden window's timers.
+// command ids (a second instance and a click on the tray icon post kCmdSettings too), and the
+// hidden window's timers.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,7 @@
 // The running guard's shared state, owned here and reached only through these functions: the
 // configuration, the hidden window, whether a planned restart is refused now, and whether a
-// shutdown block reason is held for the window. Touched on the user interface thread only.
+// shutdown block reason is held for the window. Written on the user interface thread only; the
+// window is set once, before any worker that posts to it starts.
 #pragma once
 
 #include <string>

@@ -3,17 +3,7 @@
 #include "i18n/localized.h"
 #include "tray/notice.h"
 
-HWND settings_window = nullptr;
-
 void OpenOrRaiseSettingsDialog(HWND owner) {
-  if (settings_window && IsWindow(settings_window)) {
-    ShowWindow(settings_window, IsIconic(settings_window) ? SW_RESTORE : SW_SHOWNORMAL);
-    BringWindowToTop(settings_window);
-    SetForegroundWindow(settings_window);
-    SetActiveWindow(settings_window);
-    return;
-  }
-  settings_window = nullptr;
   // The skinned settings dialog is not part of this build yet; say so instead of doing nothing.
   ShowStayholdHelpNotice(
       GetModuleHandleW(nullptr), owner, Localized(L"Nastavení Stayhold", L"Stayhold Settings"),

@@ -14,6 +14,7 @@
 #include "guard/install_paths.h"
 #include "setup/payload.h"
 #include "setup/quote_argument.h"
+#include "setup/setup_actions.h"
 #include "setup/setup_failure.h"
 
 namespace {

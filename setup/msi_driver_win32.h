@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "guard/install_paths.h"
-
 inline constexpr wchar_t kUpgradeCode[] = L"{7C2E915B-3F4A-4D68-9B1E-5A60C3D7E214}";
 
 bool RunProcessWithTimeout(const std::wstring& command_line, unsigned long& exit_code,
@@ -23,9 +21,6 @@ std::wstring ReadMsiLogExcerpt(const std::wstring& log_path);
 // Writes the Windows Update policy as a step of `phase`; on failure records
 // "<phase>-windows-update-policy" with the install text, or the repair text when asked for it.
 bool WriteUpdatePolicyStep(const std::wstring& phase, bool repair_wording);
-
-// Older versions' shortcuts, folders and per-user copy; results are not examined.
-void RemoveLegacyInstallItems(const InstallPaths& paths);
 
 // Ends every other Stayhold.exe: WM_CLOSE to its windows, then termination if it stays.
 void ForceCloseRunningGuard();

@@ -5,14 +5,10 @@
 #include "guard/guard_messages.h"
 #include "guard/guard_status.h"
 #include "guard/guard_text.h"
-#include "guard/hidden_window_win32.h"
 #include "guard/paths.h"
 #include "i18n/localized.h"
-#include "settings/settings_window_win32.h"
 #include "tray/tray_action.h"
 #include "tray/tray_text.h"
-
-NOTIFYICONDATAW tray_data = {};
 
 ShellNotifyIconFunction& TrayShellNotify() {
   static ShellNotifyIconFunction function = &Shell_NotifyIconW;
@@ -20,6 +16,9 @@ ShellNotifyIconFunction& TrayShellNotify() {
 }
 
 namespace {
+
+// What the shell was last told about the icon; each call changes the fields it names.
+NOTIFYICONDATAW tray_data = {};
 
 template <size_t N>
 void CopyField(wchar_t (&field)[N], const std::wstring& text) {
@@ -33,7 +32,7 @@ void CopyField(wchar_t (&field)[N], const std::wstring& text) {
 void AddTrayIcon() {
   tray_data = NOTIFYICONDATAW{};
   tray_data.cbSize = sizeof(tray_data);
-  tray_data.hWnd = hidden_window;
+  tray_data.hWnd = GuardWindow();
   tray_data.uID = 1;
   tray_data.uFlags = NIF_MESSAGE | NIF_ICON | NIF_TIP;
   tray_data.uCallbackMessage = kWmTrayCallback;
@@ -72,7 +71,8 @@ void HandleTrayCallback(HWND window, LPARAM l_param) {
       ShowTrayMenu(window);
       break;
     case TrayAction::OpenSettings:
-      OpenOrRaiseSettingsDialog(window);
+      // The hub opens the settings, as for the menu's command.
+      PostMessageW(window, WM_COMMAND, kCmdSettings, 0);
       break;
     case TrayAction::None:
       break;

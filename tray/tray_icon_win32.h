@@ -1,13 +1,12 @@
-// The guard's notification-area icon: adding it, its tooltip, its notifications, and what a
-// click on it does. The icon itself never changes with the state; the tooltip tells it.
+// The guard's notification-area icon on the guard's window: adding it, its tooltip, its
+// notifications, and what a click on it does. The icon itself never changes with the state; the
+// tooltip tells it.
 #pragma once
 
 #include <windows.h>
 #include <shellapi.h>
 
 #include <string>
-
-extern NOTIFYICONDATAW tray_data;
 
 // Shell_NotifyIconW, replaceable so that tests can see what the shell is asked to show.
 using ShellNotifyIconFunction = BOOL(WINAPI*)(DWORD, PNOTIFYICONDATAW);
@@ -24,7 +23,8 @@ void UpdateTrayTooltip();
 void ShowTrayBalloon(const std::wstring& title, const std::wstring& text, BalloonIcon icon);
 void RemoveTrayIcon();
 
-// WM_TRAY_CALLBACK of the hidden window.
+// WM_TRAY_CALLBACK of the hidden window. A click that opens the settings posts the settings
+// command to `window`.
 void HandleTrayCallback(HWND window, LPARAM l_param);
 
 // The tray menu; returns after the chosen command has run.

@@ -4,12 +4,10 @@
 
 #include "base/file_system.h"
 #include "guard/guard_messages.h"
-#include "guard/hidden_window_win32.h"
+#include "guard/guard_state.h"
 #include "guard/log.h"
 #include "guard/version.h"
 #include "i18n/localized.h"
-#include "settings/settings_window_win32.h"
-#include "tray/tray_icon_win32.h"
 #include "update/manifest_reader.h"
 #include "update/update_fetch_win32.h"
 
@@ -78,19 +76,14 @@ void StartManualUpdateCheck(HWND window) {
   ShowStayholdUpdateResultNotice(window, busy);
 }
 
-void HandleUpdateCheckDone(HWND window) {
+std::optional<UpdateCheckResult> ReceiveUpdateCheckResult() {
   std::optional<UpdateCheckResult> result = TakePendingUpdateResult();
-  if (!result) return;  // another window took it already
-  if (result->ok) {
+  if (result && result->ok) {
     // A failed check keeps what was offered, so an update stays offered while offline.
     StoreAvailableUpdate(result->update_available ? std::optional<UpdateManifest>(result->manifest)
                                                   : std::nullopt);
-    UpdateTrayTooltip();
   }
-  if (settings_window && IsWindow(settings_window)) {
-    PostMessageW(settings_window, kWmUpdateStateChanged, 0, 0);
-  }
-  ShowStayholdUpdateResultNotice(window, *result);
+  return result;
 }
 
 // System message boxes stand in for the skinned update dialogs; texts and flow are final.
@@ -139,7 +132,7 @@ void ShowStayholdUpdateResultNotice(HWND owner, const UpdateCheckResult& result)
 void ShowStayholdAutoUpdateDialog(HWND, const UpdateManifest& manifest) {
   // The hidden window follows the worker in place of the progress dialog.
   FollowedInstall() = std::make_shared<UpdateInstallState>();
-  StartThread(&InstallWorker, new InstallJob{FollowedInstall(), manifest, hidden_window});
+  StartThread(&InstallWorker, new InstallJob{FollowedInstall(), manifest, GuardWindow()});
 }
 
 void HandleUpdateInstallProgress(HWND window) {
@@ -173,7 +166,7 @@ UpdateCheckResult SystemUpdateInstallServices::RefreshManifest() {
 
 void SystemUpdateInstallServices::PublishCheckResult(const UpdateCheckResult& result) {
   StorePendingUpdateResult(result, false);
-  if (hidden_window) PostMessageW(hidden_window, kWmUpdateCheckDone, 0, 0);
+  if (HWND window = GuardWindow()) PostMessageW(window, kWmUpdateCheckDone, 0, 0);
 }
 
 std::wstring SystemUpdateInstallServices::TempFolder() {

@@ -1,10 +1,12 @@
 // What the hidden window asks of the self-update: automatic and manual checks on a worker, the
-// reception of a finished check, the result notice, and the install of a known update.
+// reception of a finished check, the result notice, and the install of a known update. The
+// workers report by posting WM_UPDATE_* messages to the guard's window; the hub does the rest.
 #pragma once
 
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "update/update_check.h"
@@ -14,8 +16,9 @@
 bool StartUpdateCheck(HWND window, bool manual);
 void StartAutomaticUpdateCheck(HWND window);
 void StartManualUpdateCheck(HWND window);
-// WM_UPDATE_CHECK_DONE: take the result, keep or clear the offered update, tell the user if asked.
-void HandleUpdateCheckDone(HWND window);
+// WM_UPDATE_CHECK_DONE: the finished check's result unless another window took it already; a
+// successful check keeps or clears the offered update by it, a failed one leaves it.
+std::optional<UpdateCheckResult> ReceiveUpdateCheckResult();
 void ShowStayholdUpdateResultNotice(HWND owner, const UpdateCheckResult& result);
 void ShowStayholdAutoUpdateDialog(HWND owner, const UpdateManifest& manifest);
 // WM_UPDATE_INSTALL_PROGRESS of the install worker.

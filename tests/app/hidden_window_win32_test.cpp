@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "guard/guard_state.h"
+#include "app/hidden_window_win32.h"
 #include "guard/guard_messages.h"
-#include "guard/hidden_window_win32.h"
+#include "guard/guard_state.h"
 #include "i18n/language.h"
 #include "i18n/string_table.h"
 #include "tray/tray_icon_win32.h"
@@ -56,7 +56,7 @@ class HiddenWindowTest : public ::testing::Test {
     AppConfig().language = L"en-US";
     window_ = CreateHiddenWindow(GetModuleHandleW(nullptr));
     ASSERT_NE(window_, nullptr);
-    hidden_window = window_;
+    SetGuardWindow(window_);
   }
 
   void TearDown() override {
@@ -64,8 +64,8 @@ class HiddenWindowTest : public ::testing::Test {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
     }
-    blocking_now = false;
-    block_reason_registered = false;
+    SetGuardBlocking(false);
+    SetBlockReasonHeld(false);
   }
 
   LRESULT Query(LPARAM flags) { return SendMessageW(window_, WM_QUERYENDSESSION, 0, flags); }
@@ -83,7 +83,7 @@ TEST_F(HiddenWindowTest, BlockReasonLivesExactlyWhileBlocking) {
   StartTimerFires();
   const std::wstring reason = Cell(3, L"en");
   ASSERT_EQ(observed.calls, std::vector<std::wstring>{L"create " + reason});
-  EXPECT_TRUE(block_reason_registered);
+  EXPECT_TRUE(BlockReasonHeld());
   EXPECT_EQ(Query(0), FALSE);
 
   // Every refresh takes the reason down and registers it again.
@@ -94,7 +94,7 @@ TEST_F(HiddenWindowTest, BlockReasonLivesExactlyWhileBlocking) {
   // Turning the guard off removes it at once, not at the next timer.
   SendMessageW(window_, WM_COMMAND, kCmdToggleGuard, 0);
   EXPECT_EQ(observed.calls.back(), L"destroy");
-  EXPECT_FALSE(block_reason_registered);
+  EXPECT_FALSE(BlockReasonHeld());
   EXPECT_EQ(Query(0), TRUE);
 
   SendMessageW(window_, WM_COMMAND, kCmdToggleGuard, 0);
@@ -103,7 +103,7 @@ TEST_F(HiddenWindowTest, BlockReasonLivesExactlyWhileBlocking) {
   DestroyWindow(window_);
   ASSERT_EQ(observed.calls.size(), before_destroy + 1);
   EXPECT_EQ(observed.calls.back(), L"destroy");
-  EXPECT_FALSE(block_reason_registered);
+  EXPECT_FALSE(BlockReasonHeld());
   EXPECT_EQ(observed.notify_messages.back(), static_cast<DWORD>(NIM_DELETE));
 }
 
@@ -164,6 +164,19 @@ TEST_F(HiddenWindowTest, BlockReasonAndTooltipFollowTheLanguage) {
     ASSERT_FALSE(observed.notify.empty()) << c.column;
     EXPECT_EQ(std::wstring(observed.notify.back().szTip), Cell(27, c.column)) << c.column;
   }
+}
+
+TEST_F(HiddenWindowTest, AClickThatOpensTheSettingsPostsTheSettingsCommand) {
+  for (const UINT event : {NIN_SELECT, NIN_KEYSELECT, WM_LBUTTONUP, WM_LBUTTONDBLCLK}) {
+    SendMessageW(window_, kWmTrayCallback, 0, MAKELPARAM(event, 1));
+    MSG posted{};
+    ASSERT_TRUE(PeekMessageW(&posted, window_, WM_COMMAND, WM_COMMAND, PM_REMOVE)) << event;
+    EXPECT_EQ(posted.wParam, static_cast<WPARAM>(kCmdSettings)) << event;
+  }
+  // Another icon's click asks for nothing.
+  SendMessageW(window_, kWmTrayCallback, 0, MAKELPARAM(NIN_SELECT, 2));
+  MSG posted{};
+  EXPECT_FALSE(PeekMessageW(&posted, window_, WM_COMMAND, WM_COMMAND, PM_REMOVE));
 }
 
 TEST_F(HiddenWindowTest, AFinishedCheckSwitchesTheTooltipToTheUpdate) {

@@ -1,19 +1,17 @@
 // The guard's invisible top-level window: the hub of the running application. It owns the
-// timers, answers Windows' session-end query, carries out the tray menu's commands and ends the
-// process when it is destroyed, by whatever path.
+// timers, answers Windows' session-end query, carries out the tray menu's commands, passes what
+// the update workers post on to the tray and the user, and ends the process when it is
+// destroyed, by whatever path. The state other folders read is in guard/guard_state.h.
 #pragma once
 
 #include <windows.h>
 
 #include <cstdint>
 
-// Process-wide state of the guard role, touched on the user interface thread only.
+// What the entry routine sets before the window exists; user interface thread only.
 extern uint32_t exit_after_ms;
 extern bool open_settings_at_start;
-extern HWND hidden_window;
 extern UINT taskbar_created_message;
-extern bool blocking_now;             // what WM_QUERYENDSESSION is answered from
-extern bool block_reason_registered;  // a shutdown block reason is held for the window
 
 // The two block-reason calls, replaceable so that tests can observe them (Wine implements
 // neither); they are the real functions otherwise.
@@ -31,5 +29,5 @@ HWND CreateHiddenWindow(HINSTANCE instance);
 
 // Evaluates the guard and re-registers the block reason while blocking.
 void RefreshShutdownBlockReason();
-// The above, the tooltip, and a nudge to an open settings dialog.
+// The above and the tooltip.
 void RefreshGuardState();

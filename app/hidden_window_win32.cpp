@@ -1,4 +1,4 @@
-#include "guard/hidden_window_win32.h"
+#include "app/hidden_window_win32.h"
 
 #include <shellapi.h>
 
@@ -20,10 +20,7 @@
 
 uint32_t exit_after_ms = 0;
 bool open_settings_at_start = false;
-HWND hidden_window = nullptr;
 UINT taskbar_created_message = 0;
-bool blocking_now = false;
-bool block_reason_registered = false;
 
 BlockReasonApi& ShutdownBlockReasonApi() {
   static BlockReasonApi api = {&ShutdownBlockReasonCreate, &ShutdownBlockReasonDestroy};
@@ -32,28 +29,22 @@ BlockReasonApi& ShutdownBlockReasonApi() {
 
 void RefreshShutdownBlockReason() {
   const GuardStatus status = EvaluateGuardStatus(AppConfig());
-  blocking_now = status.blocking;
+  SetGuardBlocking(status.blocking);
   // Taken down on every refresh, also when it is registered again at once.
-  if (block_reason_registered) {
-    ShutdownBlockReasonApi().destroy(hidden_window);
-    block_reason_registered = false;
+  if (BlockReasonHeld()) {
+    ShutdownBlockReasonApi().destroy(GuardWindow());
+    SetBlockReasonHeld(false);
   }
-  if (!blocking_now) return;
+  if (!status.blocking) return;
   // Looked up each time, so a change of language shows at the next refresh.
   const std::wstring reason = Localized(
       L"Stayhold blokuje plánovaný restart. Pro restart ukončete aplikaci nebo vypněte ochranu.",
       L"Stayhold is blocking a planned restart. Exit or disable the guard to restart.");
   // A failure is not logged: the refusal holds without the text.
-  block_reason_registered = ShutdownBlockReasonApi().create(hidden_window, reason.c_str()) != 0;
+  SetBlockReasonHeld(ShutdownBlockReasonApi().create(GuardWindow(), reason.c_str()) != 0);
 }
 
 namespace {
-
-void NotifySettingsWindow() {
-  if (settings_window && IsWindow(settings_window)) {
-    PostMessageW(settings_window, kWmGuardStateChanged, 0, 0);
-  }
-}
 
 void StartTimers(HWND window) {
   SetTimer(window, kTimerStart, kStartDelayMs, nullptr);
@@ -88,7 +79,7 @@ void OnTimer(HWND window, UINT_PTR id) {
 
 LRESULT OnQueryEndSession(LPARAM l_param) {
   // Answered from the last refresh, not re-evaluated: at most 30 seconds old.
-  if (SessionMayEnd(blocking_now, static_cast<uint32_t>(l_param))) return TRUE;
+  if (SessionMayEnd(GuardBlocking(), static_cast<uint32_t>(l_param))) return TRUE;
   AppendLog(L"planned shutdown/restart blocked");
   ShowTrayBalloon(Localized(L"Restart zablokován", L"Restart blocked"),
                   Localized(L"Stayhold zablokoval plánované vypnutí nebo restart.",
@@ -103,7 +94,6 @@ void ToggleGuard() {
   SaveConfig(config);
   RefreshShutdownBlockReason();
   UpdateTrayTooltip();
-  NotifySettingsWindow();
   AppendLog(config.guard_enabled ? L"stayhold enabled" : L"stayhold disabled");
 }
 
@@ -139,6 +129,15 @@ void ToggleDesktop() {
                       ? Localized(L"Zástupce na ploše byl vytvořen.", L"Desktop shortcut created.")
                       : Localized(L"Zástupce na ploše byl odebrán.", L"Desktop shortcut removed."),
                   BalloonIcon::Information);
+}
+
+// The update check's worker has left its result; the tooltip shows an offered update before the
+// result's notice (a manual check's only) holds the thread.
+void OnUpdateCheckDone(HWND window) {
+  const std::optional<UpdateCheckResult> result = ReceiveUpdateCheckResult();
+  if (!result) return;  // another window took it already
+  if (result->ok) UpdateTrayTooltip();
+  ShowStayholdUpdateResultNotice(window, *result);
 }
 
 void OnCommand(HWND window, unsigned id) {
@@ -195,7 +194,6 @@ void OnCommand(HWND window, unsigned id) {
 void RefreshGuardState() {
   RefreshShutdownBlockReason();
   UpdateTrayTooltip();
-  NotifySettingsWindow();
 }
 
 LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPARAM l_param) {
@@ -221,7 +219,7 @@ LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPA
       HandleTrayCallback(window, l_param);
       return 0;
     case kWmUpdateCheckDone:
-      HandleUpdateCheckDone(window);
+      OnUpdateCheckDone(window);
       return 0;
     case kWmUpdateInstallProgress:
       HandleUpdateInstallProgress(window);
@@ -233,9 +231,9 @@ LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPA
     case WM_DESTROY:
       KillTimer(window, kTimerUpdateCheck);
       KillTimer(window, kTimerRefresh);
-      if (block_reason_registered) {
+      if (BlockReasonHeld()) {
         ShutdownBlockReasonApi().destroy(window);
-        block_reason_registered = false;
+        SetBlockReasonHeld(false);
       }
       RemoveTrayIcon();
       AppendLog(L"app shutdown");

@@ -1,5 +1,6 @@
-// The entry of both executables: reads the options, loads the configuration, and runs a one-shot
-// setup action, the setup dialog, or the guard with its hidden window and message loop.
+// The entry of both executables: reads the options, writes the setup's skins to their cache,
+// loads the configuration, and runs a one-shot setup action, the setup dialog, or the guard with
+// its hidden window and message loop.
 #include <windows.h>
 #include <shellapi.h>
 #include <shobjidl.h>
@@ -7,12 +8,13 @@
 #include <string>
 #include <vector>
 
+#include "app/hidden_window_win32.h"
 #include "guard/app_icon_win32.h"
 #include "guard/app_skins.h"
 #include "guard/build_facts.h"
-#include "guard/guard_state.h"
 #include "guard/config_store.h"
-#include "guard/hidden_window_win32.h"
+#include "guard/guard_messages.h"
+#include "guard/guard_state.h"
 #include "guard/log.h"
 #include "guard/paths.h"
 #include "guard/startup_options.h"
@@ -65,7 +67,7 @@ int RunSecondInstance(HANDLE mutex, HINSTANCE instance) {
     // A self-limited run (tests, the setup's check) never disturbs the first instance.
   } else if (open_settings_at_start) {
     if (HWND first = FindWindowW(kHiddenWindowClass, nullptr)) {
-      PostMessageW(first, WM_COMMAND, 1006, 0);
+      PostMessageW(first, WM_COMMAND, kCmdSettings, 0);
     }
   } else {
     ShowInstallerNotice(instance, Localized(L"Už běží", L"Already running"),
@@ -95,7 +97,7 @@ int RunGuard(HINSTANCE instance) {
     CloseHandle(mutex);
     return kExitFailure;
   }
-  hidden_window = window;
+  SetGuardWindow(window);
   SendMessageW(window, WM_SETICON, ICON_BIG,
                reinterpret_cast<LPARAM>(LoadApplicationIcon(instance, SM_CXICON, SM_CYICON)));
   SendMessageW(window, WM_SETICON, ICON_SMALL,
