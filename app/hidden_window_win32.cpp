@@ -18,9 +18,17 @@
 #include "tray/tray_icon_win32.h"
 #include "update/update_commands_win32.h"
 
-uint32_t exit_after_ms = 0;
-bool open_settings_at_start = false;
+namespace {
+
+// Sent to every top-level window when the shell (re)starts; the icon must be added again.
 UINT taskbar_created_message = 0;
+
+}  // namespace
+
+HiddenWindowOptions& HiddenWindowStart() {
+  static HiddenWindowOptions options;
+  return options;
+}
 
 BlockReasonApi& ShutdownBlockReasonApi() {
   static BlockReasonApi api = {&ShutdownBlockReasonCreate, &ShutdownBlockReasonDestroy};
@@ -50,6 +58,7 @@ void StartTimers(HWND window) {
   SetTimer(window, kTimerStart, kStartDelayMs, nullptr);
   SetTimer(window, kTimerRefresh, kRefreshPeriodMs, nullptr);
   SetTimer(window, kTimerUpdateCheck, kUpdateCheckPeriodMs, nullptr);
+  const uint32_t exit_after_ms = HiddenWindowStart().exit_after_ms;
   if (exit_after_ms != 0) SetTimer(window, kTimerSelfExit, exit_after_ms, nullptr);
 }
 
@@ -59,8 +68,8 @@ void OnTimer(HWND window, UINT_PTR id) {
       KillTimer(window, kTimerStart);
       AddTrayIcon();
       RefreshGuardState();
-      if (exit_after_ms == 0) StartAutomaticUpdateCheck(window);
-      if (open_settings_at_start) PostMessageW(window, WM_COMMAND, kCmdSettings, 0);
+      if (HiddenWindowStart().exit_after_ms == 0) StartAutomaticUpdateCheck(window);
+      if (HiddenWindowStart().open_settings) PostMessageW(window, WM_COMMAND, kCmdSettings, 0);
       break;
     case kTimerSelfExit:
       KillTimer(window, kTimerSelfExit);
@@ -70,7 +79,7 @@ void OnTimer(HWND window, UINT_PTR id) {
       RefreshGuardState();
       break;
     case kTimerUpdateCheck:
-      if (exit_after_ms == 0) StartAutomaticUpdateCheck(window);
+      if (HiddenWindowStart().exit_after_ms == 0) StartAutomaticUpdateCheck(window);
       break;
     default:
       break;
@@ -246,6 +255,7 @@ LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPA
 }
 
 bool RegisterHiddenWindowClass(HINSTANCE instance) {
+  taskbar_created_message = RegisterWindowMessageW(kTaskbarCreatedMessageName);
   WNDCLASSEXW window_class = {};
   window_class.cbSize = sizeof(window_class);
   window_class.lpfnWndProc = HiddenWindowProc;

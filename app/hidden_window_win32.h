@@ -8,10 +8,13 @@
 
 #include <cstdint>
 
-// What the entry routine sets before the window exists; user interface thread only.
-extern uint32_t exit_after_ms;
-extern bool open_settings_at_start;
-extern UINT taskbar_created_message;
+// What the entry routine decides before the window is created: the self-exit limit (0: none)
+// and whether the settings open once protection has started.
+struct HiddenWindowOptions {
+  uint32_t exit_after_ms = 0;
+  bool open_settings = false;
+};
+HiddenWindowOptions& HiddenWindowStart();
 
 // The two block-reason calls, replaceable so that tests can observe them (Wine implements
 // neither); they are the real functions otherwise.
@@ -23,7 +26,8 @@ BlockReasonApi& ShutdownBlockReasonApi();
 
 LRESULT CALLBACK HiddenWindowProc(HWND window, UINT message, WPARAM w_param, LPARAM l_param);
 
-// Registers the class and creates the window; null on failure (the class is left registered).
+// Registers the class (and the shell's TaskbarCreated message) and creates the window; null on
+// failure (the class is left registered).
 bool RegisterHiddenWindowClass(HINSTANCE instance);
 HWND CreateHiddenWindow(HINSTANCE instance);
 

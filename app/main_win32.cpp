@@ -62,10 +62,10 @@ int RunSetupAction(StartupRole role, const StartupOptions& options,
   }
 }
 
-int RunSecondInstance(HANDLE mutex, HINSTANCE instance) {
-  if (exit_after_ms > 0) {
+int RunSecondInstance(HANDLE mutex, HINSTANCE instance, const StartupOptions& options) {
+  if (options.exit_after_ms > 0) {
     // A self-limited run (tests, the setup's check) never disturbs the first instance.
-  } else if (open_settings_at_start) {
+  } else if (options.settings) {
     if (HWND first = FindWindowW(kHiddenWindowClass, nullptr)) {
       PostMessageW(first, WM_COMMAND, kCmdSettings, 0);
     }
@@ -80,12 +80,12 @@ int RunSecondInstance(HANDLE mutex, HINSTANCE instance) {
   return kExitOk;
 }
 
-int RunGuard(HINSTANCE instance) {
+int RunGuard(HINSTANCE instance, const StartupOptions& options) {
   HANDLE mutex = CreateMutexW(nullptr, TRUE, kSingleInstanceMutexName);
   if (!mutex) return kExitFailure;
-  if (GetLastError() == ERROR_ALREADY_EXISTS) return RunSecondInstance(mutex, instance);
+  if (GetLastError() == ERROR_ALREADY_EXISTS) return RunSecondInstance(mutex, instance, options);
 
-  taskbar_created_message = RegisterWindowMessageW(kTaskbarCreatedMessageName);
+  HiddenWindowStart() = HiddenWindowOptions{options.exit_after_ms, options.settings};
   if (!RegisterHiddenWindowClass(instance)) {
     CloseHandle(mutex);
     return kExitFailure;
@@ -103,7 +103,7 @@ int RunGuard(HINSTANCE instance) {
   SendMessageW(window, WM_SETICON, ICON_SMALL,
                reinterpret_cast<LPARAM>(LoadApplicationIcon(instance, SM_CXSMICON, SM_CYSMICON)));
 
-  AppendLog(open_settings_at_start ? L"app startup -> open settings" : L"app startup");
+  AppendLog(options.settings ? L"app startup -> open settings" : L"app startup");
   LogWindowsUpdatePolicyStatus();
 
   MSG message = {};
@@ -122,13 +122,11 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR command_line, int) {
   // Every text from here on speaks the configured language.
   SetLanguageSettingReader(&ConfiguredLanguage);
   const StartupOptions options = ParseStartupOptions(command_line);
-  exit_after_ms = options.exit_after_ms;
   // The setup carries skin files: written to their cache before the configuration is loaded, so
   // that its skin id is repaired against them and the setup's own dialogs wear them. The guard
-  // carries none and writes nothing.
+  // carries none, so nothing is written and the cache stays out.
   if (!WriteSetupSkins().empty()) UseSetupSkinCache(SetupSkinCacheFolder());
   AppConfig() = LoadConfig();
-  open_settings_at_start = options.settings;
   const std::wstring install_dir = InstallDirFromArguments();
   SetCurrentProcessExplicitAppUserModelID(kAppUserModelId);
 
@@ -152,5 +150,5 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR command_line, int) {
     case StartupRole::Guard:
       break;
   }
-  return RunGuard(instance);
+  return RunGuard(instance, options);
 }

@@ -1,8 +1,8 @@
 #include "guard/install_paths.h"
 
 #include "base/file_system.h"
-#include "guard/install_folder.h"
 #include "base/win_path.h"
+#include "guard/install_folder.h"
 
 bool ComputeInstallPaths(const std::wstring& folder, InstallPaths& paths) {
   InstallPaths p;

@@ -1,8 +1,8 @@
 #include "guard/paths.h"
 
 #include "base/file_system.h"
-#include "guard/install_folder.h"
 #include "base/win_path.h"
+#include "guard/install_folder.h"
 #include "guard/install_paths.h"
 
 namespace {

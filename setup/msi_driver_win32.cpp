@@ -6,12 +6,12 @@
 
 #include <cstdio>
 
+#include "base/wide_text.h"
 #include "guard/install_folder.h"
+#include "guard/install_paths.h"
 #include "guard/log.h"
 #include "guard/paths.h"
 #include "guard/update_policy.h"
-#include "base/wide_text.h"
-#include "guard/install_paths.h"
 #include "setup/payload.h"
 #include "setup/quote_argument.h"
 #include "setup/setup_actions.h"

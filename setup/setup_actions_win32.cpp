@@ -5,13 +5,13 @@
 #include <filesystem>
 
 #include "base/file_system.h"
-#include "guard/install_folder.h"
-#include "guard/log.h"
-#include "guard/version.h"
 #include "base/wide_text.h"
 #include "base/win_path.h"
-#include "i18n/localized.h"
+#include "guard/install_folder.h"
 #include "guard/install_paths.h"
+#include "guard/log.h"
+#include "guard/version.h"
+#include "i18n/localized.h"
 #include "setup/msi_driver_win32.h"
 #include "setup/payload.h"
 #include "setup/payload_win32.h"

@@ -1,9 +1,9 @@
 #include "setup/setup_skins.h"
 
 #include "base/file_system.h"
-#include "guard/install_folder.h"
 #include "base/wide_text.h"
 #include "base/win_path.h"
+#include "guard/install_folder.h"
 #include "guard/install_paths.h"
 
 std::vector<PayloadRow> SetupSkinRows(const PayloadRow* table) {

@@ -1,8 +1,8 @@
 #include "tray/tray_icon_win32.h"
 
 #include "guard/app_icon_win32.h"
-#include "guard/guard_state.h"
 #include "guard/guard_messages.h"
+#include "guard/guard_state.h"
 #include "guard/guard_status.h"
 #include "guard/guard_text.h"
 #include "guard/paths.h"

@@ -141,8 +141,7 @@ TEST_F(HiddenWindowTest, TrayIconIsAddedWithTheStatusTooltip) {
 }
 
 TEST_F(HiddenWindowTest, TaskbarCreatedAddsTheIconAgain) {
-  taskbar_created_message = RegisterWindowMessageW(L"TaskbarCreated");
-  SendMessageW(window_, taskbar_created_message, 0, 0);
+  SendMessageW(window_, RegisterWindowMessageW(L"TaskbarCreated"), 0, 0);
   ASSERT_GE(observed.notify_messages.size(), 3u);
   EXPECT_EQ(observed.notify_messages[0], static_cast<DWORD>(NIM_ADD));
   EXPECT_EQ(observed.notify_messages.back(), static_cast<DWORD>(NIM_MODIFY));

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/guard_state.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/language_setting.h"
 
 namespace {
 
@@ -16,7 +16,7 @@ TEST(LanguagePickerItems, AutomaticFirstThenEveryEntry) {
   EXPECT_EQ(items[8], L"čeština / Czech (cs-CZ)");
   EXPECT_EQ(items[11], L"English (en-US)");  // same native and English name: no " / "
   EXPECT_EQ(items[88], L"cy-GB (cy-GB)");
-  AppConfig().language = L"cs-CZ";
+  UseLanguageSetting(L"cs-CZ");
   EXPECT_EQ(LanguagePickerItems()[0], L"Automaticky (Windows)");
 }
 
@@ -27,7 +27,7 @@ TEST(LanguagePickerIndex, AutoIsZeroEntriesCountFromOne) {
   } cases[] = {{L"auto", 0},   {L"ar-SA", 1}, {L"cs-CZ", 8}, {L"en-GB", 12},
                {L"cy-GB", 88}, {L"xx", 0},    {L"de-AT", 18}};
   for (const auto& c : cases) {
-    AppConfig().language = c.language;
+    UseLanguageSetting(c.language);
     EXPECT_EQ(LanguagePickerIndex(), c.index) << c.language;
   }
 }

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/guard_state.h"
 #include "i18n/language_picker.h"
 #include "i18n/localized.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/language_setting.h"
 
 namespace {
 
@@ -78,21 +78,21 @@ TEST(CurrentLanguageIndex, SettingThenWindowsThenEnglish) {
       {"no Windows language reads English", L"auto", L"", L"en"},
   };
   for (const auto& c : cases) {
-    AppConfig().language = c.setting;
+    UseLanguageSetting(c.setting);
     Fake().ui_locale = c.windows;
     EXPECT_EQ(CurrentLanguageIndex(), LanguageColumnIndex(c.column)) << c.what;
   }
 }
 
 TEST(EffectiveLanguageTag, AutoUsesWindowsOrEnUs) {
-  AppConfig().language = L"auto";
+  UseLanguageSetting(L"auto");
   Fake().ui_locale = L"";
   EXPECT_EQ(EffectiveLanguageTag(), L"en-US");
   Fake().ui_locale = L"pt-PT";
   EXPECT_EQ(EffectiveLanguageTag(), L"pt-PT");
   Fake().ui_locale = L"xx-YY";
   EXPECT_EQ(EffectiveLanguageTag(), L"auto");
-  AppConfig().language = L"es";
+  UseLanguageSetting(L"es");
   EXPECT_EQ(EffectiveLanguageTag(), L"es-MX");
 }
 
@@ -103,7 +103,6 @@ std::wstring ReadSetting() {
 
 TEST(LanguageSetting, ReadAtEveryLookupAndAutoWithoutAReader) {
   Fake().ui_locale = L"ja-JP";
-  AppConfig().language = L"cs-CZ";  // the application's reader is replaced below
   SetLanguageSettingReader(nullptr);
   EXPECT_EQ(LanguageSetting(), L"auto");
   EXPECT_EQ(EffectiveLanguageTag(), L"ja-JP");
@@ -147,7 +146,7 @@ TEST(Localized, CzechInCzechEnglishElsewhere) {
       {L"auto", L"en-GB", L"Hello"}, {L"xx", L"xx-YY", L"Hello"},
   };
   for (const auto& c : cases) {
-    AppConfig().language = c.setting;
+    UseLanguageSetting(c.setting);
     Fake().ui_locale = c.windows;
     EXPECT_EQ(Localized(L"Ahoj", L"Hello"), c.expected) << c.setting << " " << c.windows;
   }

@@ -1,28 +1,12 @@
-// Day names and the language fall-backs with the platform's real locale data.
+// The locale seam and the language picker with the platform's real locale data.
 #include <gtest/gtest.h>
 
-#include "guard/guard_state.h"
-#include "guard/guard_text.h"
 #include "i18n/language.h"
 #include "i18n/language_picker.h"
 #include "i18n/locale_system.h"
+#include "tests/support/language_setting.h"
 
 namespace {
-
-TEST(DayName, ComesFromTheLocale) {
-  const struct {
-    const wchar_t* language;
-    int day;
-    const wchar_t* name;
-  } cases[] = {
-      {L"en-US", 0, L"Monday"},     {L"en-US", 6, L"Sunday"},   {L"cs-CZ", 0, L"pond\u011Bl\u00ED"},
-      {L"cs-CZ", 4, L"p\u00E1tek"}, {L"de-DE", 2, L"Mittwoch"},
-  };
-  for (const auto& c : cases) {
-    AppConfig().language = c.language;
-    EXPECT_EQ(DayName(c.day), c.name) << c.language << " " << c.day;
-  }
-}
 
 TEST(LocaleInfoText, UnknownTagFails) {
   std::wstring out;
@@ -46,7 +30,7 @@ TEST(SystemUiLocaleName, IsATagTheTableUnderstands) {
 namespace {
 
 TEST(LanguagePickerItems, NamesComeFromTheLocaleData) {
-  AppConfig().language = L"en-US";
+  UseLanguageSetting(L"en-US");
   const std::vector<std::wstring> items = LanguagePickerItems();
   ASSERT_EQ(items.size(), 89u);
   EXPECT_EQ(items[0], L"Automatic (Windows)");

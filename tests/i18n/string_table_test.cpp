@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/guard_state.h"
 #include "i18n/language.h"
 #include "i18n/localized.h"
 #include "tests/support/fake_platform.h"
+#include "tests/support/language_setting.h"
 
 namespace {
 
@@ -81,7 +81,7 @@ TEST(Localized, RowCellsByLanguageAndFallBacksWithoutARow) {
        L"No row", L"No row"},
   };
   for (const auto& c : cases) {
-    AppConfig().language = c.language;
+    UseLanguageSetting(c.language);
     Fake().ui_locale = c.windows;
     EXPECT_EQ(Localized(c.cs, c.en), c.expected) << c.what;
   }
@@ -98,7 +98,7 @@ TEST(Localized, ReadsTheColumnOfTheEffectiveLanguage) {
       {L"nn-NO", L"no"},      {L"de-AT", L"de"},
   };
   for (const auto& c : cases) {
-    AppConfig().language = c.language;
+    UseLanguageSetting(c.language);
     EXPECT_EQ(Localized(key, L"Exit"), kStringTable[51].cells[LanguageColumnIndex(c.column)])
         << c.language;
   }
@@ -122,9 +122,9 @@ TEST(Localized, RowsWithADoubledBackslashAreNeverFound) {
   for (const auto& c : cases) {
     EXPECT_NE(std::wstring(kStringTable[c.row].key).find(L"\\\\"), std::wstring::npos) << c.row;
     EXPECT_EQ(FindStringRow(c.cs), nullptr) << c.row;
-    AppConfig().language = L"de-DE";
+    UseLanguageSetting(L"de-DE");
     EXPECT_EQ(Localized(c.cs, c.en), c.en) << c.row;
-    AppConfig().language = L"cs-CZ";
+    UseLanguageSetting(L"cs-CZ");
     EXPECT_EQ(Localized(c.cs, c.en), c.cs) << c.row;
   }
   EXPECT_NE(std::wstring(kStringTable[10].key).find(L"skins\\\\HOW_TO"), std::wstring::npos);

@@ -2,13 +2,13 @@
 
 #include <cwctype>
 
+#include "base/wide_text.h"
 #include "guard/install_folder.h"
 #include "guard/log.h"
-#include "base/wide_text.h"
-#include "update/update_check.h"
 #include "i18n/locale_system.h"
 #include "tests/support/fake_machine_registry.h"
 #include "tests/support/memory_profile_store.h"
+#include "update/update_check.h"
 
 FakePlatform& Fake() {
   static FakePlatform platform;
