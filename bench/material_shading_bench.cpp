@@ -1,15 +1,13 @@
 // The material layers computed cold (a fresh layer, no cache) on a 900 x 100 surface, the width
 // of a wide control: every kind's overlay, Granite and Marble with relief, the spatial shading
 // and noise. ns_per_px is the time per pixel. "baseline" forces the x86-64 baseline painters
-// where the dispatcher would pick AVX2; "formulas" is the plain per-pixel transcription the
-// tests compare with, for scale.
+// where the dispatcher would pick AVX2.
 #include <string>
 
 #include <benchmark/benchmark.h>
 
 #include "tessel/paint/material_layers.h"
 #include "tessel/paint/material_shading.h"
-#include "tests/tessel/paint/material_reference.h"
 
 namespace tessel {
 namespace {
@@ -17,7 +15,7 @@ namespace {
 const Rect kSurface{0, 0, 900, 100};
 constexpr double kPixels = 900.0 * 100.0;
 
-enum class Path { Dispatched, Baseline, Formulas };
+enum class Path { Dispatched, Baseline };
 
 void perPixel(benchmark::State& state) {
   // Pixels per second, inverted: seconds per pixel, which the report shows in ns.
@@ -37,18 +35,11 @@ SurfaceStyle materialStyle(MaterialKind kind, uint8_t depth, int32_t angle) {
 void overlay(benchmark::State& state, SurfaceStyle style, Path path) {
   for (auto _ : state) {
     Image layer = Image::blank(kSurface.width, kSurface.height);
-    switch (path) {
-      case Path::Dispatched:
-        drawMaterialOverlay(layer, style, kSurface, UiPerformanceProfile::BestGraphics, 0);
-        break;
-      case Path::Baseline:
-        material_layers::baseline::paintOverlay(layer, style, kSurface, style.materialDepth, false,
-                                                0);
-        break;
-      case Path::Formulas:
-        layer = reference::materialOverlay(style, kSurface, style.materialDepth, false, 0);
-        break;
-    }
+    if (path == Path::Baseline)
+      material_layers::baseline::paintOverlay(layer, style, kSurface, style.materialDepth, false,
+                                              0);
+    else
+      drawMaterialOverlay(layer, style, kSurface, UiPerformanceProfile::BestGraphics, 0);
     benchmark::DoNotOptimize(layer.pixels->data());
   }
   perPixel(state);
@@ -98,9 +89,6 @@ const bool kRegistered = [] {
                                  materialStyle(kind, 0, 0), Path::Baseline);
     benchmark::RegisterBenchmark(("overlay/" + name + "/relief/baseline").c_str(), overlay,
                                  materialStyle(kind, 64, 0), Path::Baseline);
-    benchmark::RegisterBenchmark(("overlay/" + name + "/relief/formulas").c_str(), overlay,
-                                 materialStyle(kind, 64, 0), Path::Formulas)
-        ->Iterations(3);
   }
   SurfaceStyle slab = materialStyle(MaterialKind::Granite, 64, 0);
   benchmark::RegisterBenchmark("spatial/granite/rectangle", spatial, slab, Path::Dispatched);

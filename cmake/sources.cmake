@@ -67,7 +67,12 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/text_wrap.cpp
   tessel/style/material_kind.cpp
   tessel/paint/material_layers.cpp
-  tessel/paint/material_layers_avx2.cpp
+  tessel/paint/material_noise_layer.cpp
+  tessel/paint/material_noise_layer_avx2.cpp
+  tessel/paint/material_overlay.cpp
+  tessel/paint/material_overlay_avx2.cpp
+  tessel/paint/material_spatial_shading.cpp
+  tessel/paint/material_spatial_shading_avx2.cpp
   tessel/paint/material_noise.cpp
   tessel/paint/material_shading.cpp
   tessel/paint/private_fonts.cpp
@@ -133,14 +138,23 @@ set(STAYHOLD_WIN32_SOURCES
   update/update_fetch_win32.cpp
 )
 
-# The material layers' per-pixel loops are written to be vectorized: without errno and trap
-# semantics the compiler can run sqrt and the selects of several pixels at once.
-set_source_files_properties(tessel/paint/material_layers.cpp tessel/paint/material_layers_avx2.cpp
+# The material layers' painters, each built once per instruction set.
+set(STAYHOLD_MATERIAL_LAYERS_AVX2
+  tessel/paint/material_noise_layer_avx2.cpp
+  tessel/paint/material_overlay_avx2.cpp
+  tessel/paint/material_spatial_shading_avx2.cpp)
+# Their per-pixel loops are written to be vectorized: without errno and trap semantics the
+# compiler can run sqrt and the selects of several pixels at once.
+set_source_files_properties(
+  tessel/paint/material_noise_layer.cpp
+  tessel/paint/material_overlay.cpp
+  tessel/paint/material_spatial_shading.cpp
+  ${STAYHOLD_MATERIAL_LAYERS_AVX2}
   PROPERTIES
   COMPILE_OPTIONS "-fno-math-errno;-fno-trapping-math;$<$<CXX_COMPILER_ID:GNU>:-fvect-cost-model=dynamic>")
 # 64-bit Windows keeps the stack aligned to 16 bytes only: 32-byte vector moves must not assume
 # more.
 if(WIN32)
-  set_property(SOURCE tessel/paint/material_layers_avx2.cpp APPEND PROPERTY
+  set_property(SOURCE ${STAYHOLD_MATERIAL_LAYERS_AVX2} APPEND PROPERTY
     COMPILE_OPTIONS "-Wa,-muse-unaligned-vector-move")
 endif()

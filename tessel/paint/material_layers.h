@@ -1,11 +1,11 @@
-// The row-wise painters behind the material layers, built twice from material_layers.inc: for
+// The row-wise painters behind the material layers, each built twice from its layer's file: for
 // the x86-64 baseline, and for AVX2 where the compiler can target it, the processor running the
 // program picking one. Both paint the same pixels. Internal to material_shading.cpp (and its
 // tests): the gates and the preparation of the layer are the caller's.
 #pragma once
 
-// Everything material_layers.inc uses, included here so that each build of it sees these
-// headers compiled for the baseline, outside its target switch.
+// Everything the layers' files use, included here so that each build of them sees these headers
+// compiled for the baseline, outside its target switch.
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -22,6 +22,13 @@
 #include "tessel/paint/sample_space.h"
 #include "tessel/paint/surface_outline.h"
 #include "tessel/style/surface_style.h"
+
+// Whether the AVX2 painters are built: the target switch around them is GCC's, on x86-64.
+#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__)
+#define TESSEL_MATERIAL_AVX2 1
+#else
+#define TESSEL_MATERIAL_AVX2 0
+#endif
 
 namespace tessel::material_layers {
 
@@ -42,7 +49,8 @@ TESSEL_MATERIAL_PAINTERS
 }
 #undef TESSEL_MATERIAL_PAINTERS
 
-// Whether the AVX2 painters were built and this processor runs them.
+// Whether the AVX2 painters were built and this processor runs them; where they were not built,
+// the avx2 names pass to the baseline.
 bool avx2Available();
 
 // How strongly the spatial shading shows: max(strength, 64) / 255 times the weight of depth,

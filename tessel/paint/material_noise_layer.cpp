@@ -1,0 +1,5 @@
+// The noise layer painter for the x86-64 baseline (SSE2).
+#include "tessel/paint/material_layers.h"
+
+#define MATERIAL_LAYERS_NS baseline
+#include "tessel/paint/material_noise_layer.inc"
