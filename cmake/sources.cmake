@@ -1,160 +1,75 @@
-# The portable sources: no <windows.h>, built natively and for Windows alike.
-set(STAYHOLD_PORTABLE_SOURCES
-  guard/app_skins.cpp
-  guard/config_store.cpp
-  guard/guard_state.cpp
-  guard/guard_status.cpp
-  guard/guard_text.cpp
-  guard/install_folder.cpp
-  guard/install_paths.cpp
-  guard/log_line.cpp
-  guard/paths.cpp
-  guard/update_policy.cpp
-  guard/startup_options.cpp
-  base/wide_text.cpp
-  base/win_path.cpp
-  i18n/language.cpp
-  i18n/language_picker.cpp
-  i18n/locale_table.cpp
-  i18n/localized.cpp
-  setup/payload.cpp
-  setup/quote_argument.cpp
-  setup/registration.cpp
-  setup/setup_skins.cpp
-  setup/setup_failure.cpp
-  tray/notice_text.cpp
-  tray/tray_text.cpp
-  update/manifest_reader.cpp
-  update/update_check.cpp
-  update/update_install.cpp
-  update/update_state.cpp
-  update/version_compare.cpp
-  ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp
-  # toolkit
-  tessel/core/control.cpp
-  tessel/core/panel.cpp
-  tessel/style/rect_extents.cpp
-  tessel/core/dialog_window.cpp
-  tessel/core/system_move.cpp
-  tessel/core/tooltip_path.cpp
-  tessel/core/window.cpp
-  tessel/core/window_frame.cpp
-  tessel/controls/bitmap_button.cpp
-  tessel/controls/card.cpp
-  tessel/controls/check_box.cpp
-  tessel/controls/designed_popup.cpp
-  tessel/controls/inline_markup.cpp
-  tessel/controls/label.cpp
-  tessel/controls/progress_bar.cpp
-  tessel/controls/status_chip.cpp
-  tessel/controls/surface_bands.cpp
-  tessel/controls/text_fit.cpp
-  tessel/controls/themed_button.cpp
-  tessel/controls/themed_panel.cpp
-  tessel/controls/chrome_title_bar.cpp
-  tessel/paint/alpha_bands.cpp
-  tessel/paint/bitmap_surface.cpp
-  tessel/paint/chrome_glyphs.cpp
-  tessel/style/color.cpp
-  tessel/style/image.cpp
-  tessel/paint/image_file_common.cpp
-  tessel/paint/image_canvas.cpp
-  tessel/paint/pixel_blend.cpp
-  tessel/paint/layer_cache.cpp
-  tessel/paint/layer_runs.cpp
-  tessel/paint/line_raster.cpp
-  tessel/paint/text_ellipsis.cpp
-  tessel/paint/text_wrap.cpp
-  tessel/style/material_kind.cpp
-  tessel/paint/material_layers.cpp
-  tessel/paint/material_noise_layer.cpp
-  tessel/paint/material_noise_layer_avx2.cpp
-  tessel/paint/material_overlay.cpp
-  tessel/paint/material_overlay_avx2.cpp
-  tessel/paint/material_spatial_shading.cpp
-  tessel/paint/material_spatial_shading_avx2.cpp
-  tessel/paint/material_noise.cpp
-  tessel/paint/material_shading.cpp
-  tessel/paint/private_fonts.cpp
-  tessel/paint/sample_space.cpp
-  tessel/paint/shape_fill.cpp
-  tessel/paint/shape_geometry.cpp
-  tessel/skin/skin_words.cpp
-  tessel/paint/stand_in_font.cpp
-  tessel/paint/surface_outline.cpp
-  tessel/paint/surface_painter.cpp
-  tessel/paint/ui_performance.cpp
-  tessel/paint/gradient.cpp
-  tessel/skin/control_style_parsers.cpp
-  tessel/skin/json_access.cpp
-  tessel/skin/json_value.cpp
-  tessel/skin/material_preset.cpp
-  tessel/skin/property_table.cpp
-  tessel/skin/skin_catalogue.cpp
-  tessel/skin/skin_definition.cpp
-  tessel/skin/skin_picker.cpp
-  tessel/skin/style_builders.cpp
-  tessel/skin/style_reader.cpp
-  tessel/skin/style_sheet.cpp
-  tessel/skin/surface_builder.cpp
-  tessel/skin/surface_parser.cpp
-  tessel/skin/theme.cpp
-)
+# The layers, bottom first: base <- tessel (style <- paint <- skin, core <- controls) <- the
+# application (i18n <- guard <- update <- tray <- settings <- setup <- app). Portable code has no
+# <windows.h>; each folder's `*_win32.cpp` files join it in the Windows build only.
+include(${CMAKE_CURRENT_LIST_DIR}/layers.cmake)
 
-# The portable library's one platform seam, image decoding: one of these joins it per build.
-set(STAYHOLD_PORTABLE_NATIVE_SOURCES
-  tessel/paint/image_file.cpp
-)
-set(STAYHOLD_PORTABLE_WIN32_SOURCES
-  tessel/paint/image_file_win32.cpp
-)
+add_library(stayhold_system_libraries INTERFACE)
+if(WIN32)
+  target_link_libraries(stayhold_system_libraries INTERFACE shell32 ole32 oleaut32 propsys shlwapi
+    advapi32 winhttp msi user32 gdi32 msimg32 windowscodecs uuid)
+endif()
 
-# The thin Windows layer beside them.
-set(STAYHOLD_WIN32_SOURCES
-  tessel/paint/gdi_canvas_win32.cpp
-  tessel/paint/private_fonts_win32.cpp
-  tessel/paint/icon_image_win32.cpp
-  tessel/core/window_win32.cpp
-  tessel/core/dialog_window_win32.cpp
-  app/hidden_window_win32.cpp
-  guard/app_icon_win32.cpp
-  base/file_system_win32.cpp
-  guard/install_folder_win32.cpp
-  guard/local_time_win32.cpp
-  guard/log_win32.cpp
-  guard/profile_store_win32.cpp
-  guard/machine_registry_win32.cpp
-  i18n/locale_system_win32.cpp
-  settings/settings_window_win32.cpp
-  setup/msi_driver_win32.cpp
-  setup/payload_win32.cpp
-  setup/registration_win32.cpp
-  setup/setup_actions_win32.cpp
-  setup/shortcuts_win32.cpp
-  tray/notice_win32.cpp
-  tray/tray_icon_win32.cpp
-  update/http_get_win32.cpp
-  update/update_commands_win32.cpp
-  update/update_fetch_win32.cpp
-)
+stayhold_layer(stayhold_base FOLDER base)
 
-# The material layers' painters, each built once per instruction set.
+# The toolkit: nothing of Stayhold in it.
+stayhold_layer(tessel_style FOLDER tessel/style BELOW stayhold_base)
+# The native build reads test images as PAM files; Windows decodes with its imaging component.
+stayhold_layer(tessel_paint FOLDER tessel/paint BELOW tessel_style
+  NATIVE_ONLY tessel/paint/image_file_pam.cpp)
+stayhold_layer(tessel_skin FOLDER tessel/skin BELOW tessel_paint)
+stayhold_layer(tessel_core FOLDER tessel/core BELOW tessel_paint)
+stayhold_layer(tessel_controls FOLDER tessel/controls BELOW tessel_core tessel_skin)
+add_library(tessel INTERFACE)
+target_link_libraries(tessel INTERFACE tessel_controls)
+get_target_property(tessel_folders tessel_controls STAYHOLD_VISIBLE_FOLDERS)
+set_target_properties(tessel PROPERTIES STAYHOLD_VISIBLE_FOLDERS "${tessel_folders}")
+
+# The material layers' painters, each built once per instruction set. Their per-pixel loops are
+# written to be vectorized: without errno and trap semantics the compiler can run sqrt and the
+# selects of several pixels at once.
 set(STAYHOLD_MATERIAL_LAYERS_AVX2
   tessel/paint/material_noise_layer_avx2.cpp
   tessel/paint/material_overlay_avx2.cpp
   tessel/paint/material_spatial_shading_avx2.cpp)
-# Their per-pixel loops are written to be vectorized: without errno and trap semantics the
-# compiler can run sqrt and the selects of several pixels at once.
 set_source_files_properties(
   tessel/paint/material_noise_layer.cpp
   tessel/paint/material_overlay.cpp
   tessel/paint/material_spatial_shading.cpp
   ${STAYHOLD_MATERIAL_LAYERS_AVX2}
-  PROPERTIES
-  COMPILE_OPTIONS "-fno-math-errno;-fno-trapping-math;$<$<CXX_COMPILER_ID:GNU>:-fvect-cost-model=dynamic>")
+  TARGET_DIRECTORY tessel_paint
+  PROPERTIES COMPILE_OPTIONS
+  "-fno-math-errno;-fno-trapping-math;$<$<CXX_COMPILER_ID:GNU>:-fvect-cost-model=dynamic>")
 # 64-bit Windows keeps the stack aligned to 16 bytes only: 32-byte vector moves must not assume
 # more.
 if(WIN32)
-  set_property(SOURCE ${STAYHOLD_MATERIAL_LAYERS_AVX2} APPEND PROPERTY
-    COMPILE_OPTIONS "-Wa,-muse-unaligned-vector-move")
+  set_property(SOURCE ${STAYHOLD_MATERIAL_LAYERS_AVX2} TARGET_DIRECTORY tessel_paint APPEND
+    PROPERTY COMPILE_OPTIONS "-Wa,-muse-unaligned-vector-move")
 endif()
+
+# The application. The string table is data: i18n/strings/*.txt turned into C++ at build time;
+# the generator stops the build when a file has a missing, extra or empty row.
+file(GLOB STAYHOLD_STRING_FILES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/i18n/strings/*.txt)
+add_custom_command(
+  OUTPUT ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/generated
+  COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/i18n/make_string_table.py
+          ${CMAKE_SOURCE_DIR}/i18n/strings ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp
+  DEPENDS ${STAYHOLD_STRING_FILES} ${CMAKE_SOURCE_DIR}/i18n/make_string_table.py
+  COMMENT "Generating the string table")
+
+stayhold_layer(app_i18n FOLDER i18n BELOW tessel)
+target_sources(app_i18n PRIVATE ${CMAKE_BINARY_DIR}/generated/string_table_data.cpp)
+stayhold_layer(app_guard FOLDER guard BELOW app_i18n)
+stayhold_layer(app_update FOLDER update BELOW app_guard)
+# The addresses of the update manifest and the download page, configured at build time.
+target_include_directories(app_update PUBLIC ${CMAKE_BINARY_DIR}/generated)
+stayhold_layer(app_tray FOLDER tray BELOW app_update)
+stayhold_layer(app_settings FOLDER settings BELOW app_tray)
+# Each executable brings its own payload table.
+stayhold_layer(app_setup FOLDER setup BELOW app_settings
+  EXCLUDE setup/payload_table_app.cpp setup/payload_table_setup.cpp)
+# The top: the entry routine's helpers and the hidden window, the hub that calls down.
+stayhold_layer(app_hub FOLDER app BELOW app_setup EXCLUDE app/main_win32.cpp)
+add_library(stayhold_application INTERFACE)
+target_link_libraries(stayhold_application INTERFACE app_hub)
+get_target_property(STAYHOLD_ALL_FOLDERS app_hub STAYHOLD_VISIBLE_FOLDERS)

@@ -2,11 +2,6 @@
 # STAYHOLD_SETUP_BUILD.
 add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
 
-add_library(stayhold_win32 OBJECT ${STAYHOLD_WIN32_SOURCES})
-target_link_libraries(stayhold_win32 PUBLIC stayhold_portable)
-target_link_libraries(stayhold_win32 PUBLIC shell32 ole32 oleaut32 propsys shlwapi advapi32 winhttp msi user32
-  gdi32 msimg32 uuid)
-
 set(STAYHOLD_ICON_FILE ${CMAKE_BINARY_DIR}/generated/stayhold.ico)
 add_custom_command(
   OUTPUT ${STAYHOLD_ICON_FILE}
@@ -30,9 +25,9 @@ function(stayhold_executable target exe_base description)
   add_executable(${target} WIN32 app/main_win32.cpp ${rc})
   add_dependencies(${target} stayhold_icon)
   set_target_properties(${target} PROPERTIES OUTPUT_NAME ${exe_base})
-  target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR})
+  stayhold_include_root(${target} PRIVATE ${STAYHOLD_ALL_FOLDERS})
   target_link_options(${target} PRIVATE -municode $<$<CONFIG:Release>:-s>)
-  target_link_libraries(${target} PRIVATE stayhold_win32)
+  target_link_libraries(${target} PRIVATE stayhold_application)
 endfunction()
 
 stayhold_executable(stayhold_app Stayhold "Stayhold restart guard")

@@ -9,7 +9,7 @@ packages=(
   g++-mingw-w64-x86-64-posix mingw-w64-tools binutils-mingw-w64-x86-64
   wine wine64 msitools wixl
   xvfb xdotool imagemagick x11-utils fonts-dejavu-core
-  clang-format clang libclang-rt-14-dev openssl
+  clang-format clang libclang-rt-14-dev openssl ccache
 )
 
 missing=()

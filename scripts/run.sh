@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Builds everything and runs the guard (Stayhold.exe) under Wine, in a prefix inside the build
-# tree. Starts Xvfb when there is no display. Extra arguments go to Stayhold.exe; Ctrl+C ends the
+# Builds the Windows programs (nothing else) and runs the guard (Stayhold.exe) under Wine, in a
+# prefix inside the build tree. Starts Xvfb when there is no display. Extra arguments go to Stayhold.exe; Ctrl+C ends the
 # guard through WM_CLOSE, as the setup would.
 # Usage: scripts/run.sh [--exit-after-ms=N] [--settings]
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 "$root/scripts/install_deps.sh"
-"$root/scripts/build.sh" all
+"$root/scripts/build.sh" programs
 
 export STAYHOLD_BUILD="$root/build/windows"
 export WINEPREFIX="$STAYHOLD_BUILD/run-prefix"

@@ -46,7 +46,7 @@ struct PngCase {
 
 // Expected values from a native decode of each PNG: zlib inflate and the PNG row filters in a
 // few lines of Python, then (c * a + 127) / 255 per colour channel. Reproduce with
-//   python3 tests/win32/png_pixels.py assets/FILE.png X,Y ...
+//   python3 tests/tessel/paint/png_pixels.py assets/FILE.png X,Y ...
 const PngCase kPngCases[] = {
     {"stayhold_chrome_close_hot.png",
      36,
