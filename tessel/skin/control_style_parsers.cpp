@@ -57,7 +57,7 @@ void parseButtonStyle(const StyleReader& reader, ButtonStyle& style) {
   shapeInto(reader, L"shape", style.surface);
   parseControlStates(reader.at(L"surface"), style.surface);
   mainText(reader, style.text, {L"text"});
-  if (reader.shape(L"hitShape", style.hitShape)) style.hasHitShape = true;
+  if (reader.shape(L"hitShape", style.hitShape.kind)) style.hitShape.present = true;
   reader.flag({L"useSurfaceHitTesting"}, style.useSurfaceHitTesting);
 }
 
@@ -155,17 +155,17 @@ void parseScrollBarStyle(const StyleReader& reader, ScrollBarStyle& style) {
 
 void parseCheckBoxStyle(const StyleReader& reader, CheckBoxStyle& style) {
   shapeInto(reader, L"shape",
-            {&style.boxUnchecked, &style.boxUncheckedHot, &style.boxUncheckedPressed,
-             &style.boxUncheckedDisabled, &style.boxChecked, &style.boxCheckedHot,
-             &style.boxCheckedPressed, &style.boxCheckedDisabled});
-  surface(reader, L"boxUnchecked", style.boxUnchecked);
-  surface(reader, L"boxUncheckedHot", style.boxUncheckedHot);
-  surface(reader, L"boxUncheckedPressed", style.boxUncheckedPressed);
-  surface(reader, L"boxUncheckedDisabled", style.boxUncheckedDisabled);
-  surface(reader, L"boxChecked", style.boxChecked);
-  surface(reader, L"boxCheckedHot", style.boxCheckedHot);
-  surface(reader, L"boxCheckedPressed", style.boxCheckedPressed);
-  surface(reader, L"boxCheckedDisabled", style.boxCheckedDisabled);
+            {&style.unchecked.normal, &style.unchecked.hot, &style.unchecked.pressed,
+             &style.unchecked.disabled, &style.checked.normal, &style.checked.hot,
+             &style.checked.pressed, &style.checked.disabled});
+  surface(reader, L"boxUnchecked", style.unchecked.normal);
+  surface(reader, L"boxUncheckedHot", style.unchecked.hot);
+  surface(reader, L"boxUncheckedPressed", style.unchecked.pressed);
+  surface(reader, L"boxUncheckedDisabled", style.unchecked.disabled);
+  surface(reader, L"boxChecked", style.checked.normal);
+  surface(reader, L"boxCheckedHot", style.checked.hot);
+  surface(reader, L"boxCheckedPressed", style.checked.pressed);
+  surface(reader, L"boxCheckedDisabled", style.checked.disabled);
   reader.color({L"checkColor"}, style.checkColor);
   mainText(reader, style.text, {L"text"});
   reader.integer({L"boxSize"}, style.boxSize);
@@ -173,23 +173,24 @@ void parseCheckBoxStyle(const StyleReader& reader, CheckBoxStyle& style) {
 }
 
 void parseSelectBoxStyle(const StyleReader& reader, SelectBoxStyle& style) {
-  shapeInto(reader, L"shape",
-            {&style.surface, &style.hotSurface, &style.pressedSurface, &style.disabledSurface});
+  shapeInto(
+      reader, L"shape",
+      {&style.surface.normal, &style.surface.hot, &style.surface.pressed, &style.surface.disabled});
   shapeInto(reader, L"arrowShape",
-            {&style.arrowSurface, &style.arrowHotSurface, &style.arrowPressedSurface,
-             &style.arrowDisabledSurface});
+            {&style.arrowSurface.normal, &style.arrowSurface.hot, &style.arrowSurface.pressed,
+             &style.arrowSurface.disabled});
   shapeInto(reader, L"dropdownShape", {&style.dropdownSurface});
-  surface(reader, L"surface", style.surface);
-  surface(reader, L"hotSurface", style.hotSurface);
-  surface(reader, L"pressedSurface", style.pressedSurface);
-  surface(reader, L"disabledSurface", style.disabledSurface);
-  surface(reader, L"arrowSurface", style.arrowSurface);
-  surface(reader, L"arrowHotSurface", style.arrowHotSurface);
-  surface(reader, L"arrowPressedSurface", style.arrowPressedSurface);
-  surface(reader, L"arrowDisabledSurface", style.arrowDisabledSurface);
+  surface(reader, L"surface", style.surface.normal);
+  surface(reader, L"hotSurface", style.surface.hot);
+  surface(reader, L"pressedSurface", style.surface.pressed);
+  surface(reader, L"disabledSurface", style.surface.disabled);
+  surface(reader, L"arrowSurface", style.arrowSurface.normal);
+  surface(reader, L"arrowHotSurface", style.arrowSurface.hot);
+  surface(reader, L"arrowPressedSurface", style.arrowSurface.pressed);
+  surface(reader, L"arrowDisabledSurface", style.arrowSurface.disabled);
   surface(reader, L"dropdownSurface", style.dropdownSurface);
-  surface(reader, L"optionHotSurface", style.optionHotSurface);
-  surface(reader, L"optionSelectedSurface", style.optionSelectedSurface);
+  surface(reader, L"optionHotSurface", style.optionSurface.hot);
+  surface(reader, L"optionSelectedSurface", style.optionSurface.active);
   parseScrollBarStyle(reader.at(L"scrollBar"), style.scrollBar);
   parseScrollAcceleration(reader.at(L"scrollAcceleration"), style.scrollAcceleration);
   mainText(reader, style.text, {L"text"});
@@ -208,15 +209,15 @@ void parseSelectBoxStyle(const StyleReader& reader, SelectBoxStyle& style) {
 
 void parseHierarchicalListBoxStyle(const StyleReader& reader, HierarchicalListBoxStyle& style) {
   shapeInto(reader, L"shape", {&style.surface});
-  shapeInto(reader, L"rowShape", {&style.row, &style.rowHot, &style.rowPressed});
-  shapeInto(reader, L"selectedRowShape", {&style.selectedRow, &style.selectedRowHot});
+  shapeInto(reader, L"rowShape", {&style.row.normal, &style.row.hot, &style.row.pressed});
+  shapeInto(reader, L"selectedRowShape", {&style.selectedRow.normal, &style.selectedRow.hot});
   shapeInto(reader, L"selectedRailShape", {&style.selectedRail});
   surface(reader, L"surface", style.surface);
-  surface(reader, L"row", style.row);
-  surface(reader, L"rowHot", style.rowHot);
-  surface(reader, L"rowPressed", style.rowPressed);
-  surface(reader, L"selectedRow", style.selectedRow);
-  surface(reader, L"selectedRowHot", style.selectedRowHot);
+  surface(reader, L"row", style.row.normal);
+  surface(reader, L"rowHot", style.row.hot);
+  surface(reader, L"rowPressed", style.row.pressed);
+  surface(reader, L"selectedRow", style.selectedRow.normal);
+  surface(reader, L"selectedRowHot", style.selectedRow.hot);
   surface(reader, L"selectedRail", style.selectedRail);
   parseScrollBarStyle(reader.at(L"scrollBar"), style.scrollBar);
   parseScrollAcceleration(reader.at(L"scrollAcceleration"), style.scrollAcceleration);
@@ -237,23 +238,24 @@ void parseHierarchicalListBoxStyle(const StyleReader& reader, HierarchicalListBo
 }
 
 void parseDateInputStyle(const StyleReader& reader, DateInputStyle& style) {
-  shapeInto(reader, L"shape",
-            {&style.surface, &style.hotSurface, &style.pressedSurface, &style.disabledSurface});
+  shapeInto(
+      reader, L"shape",
+      {&style.surface.normal, &style.surface.hot, &style.surface.pressed, &style.surface.disabled});
   shapeInto(reader, L"arrowShape",
-            {&style.arrowSurface, &style.arrowHotSurface, &style.arrowPressedSurface});
+            {&style.arrowSurface.normal, &style.arrowSurface.hot, &style.arrowSurface.pressed});
   shapeInto(reader, L"popupShape", {&style.popupSurface});
   for (auto [name, field] :
-       {std::pair{L"surface", &style.surface}, std::pair{L"hotSurface", &style.hotSurface},
-        std::pair{L"pressedSurface", &style.pressedSurface},
-        std::pair{L"disabledSurface", &style.disabledSurface},
-        std::pair{L"arrowSurface", &style.arrowSurface},
-        std::pair{L"arrowHotSurface", &style.arrowHotSurface},
-        std::pair{L"arrowPressedSurface", &style.arrowPressedSurface},
+       {std::pair{L"surface", &style.surface.normal}, std::pair{L"hotSurface", &style.surface.hot},
+        std::pair{L"pressedSurface", &style.surface.pressed},
+        std::pair{L"disabledSurface", &style.surface.disabled},
+        std::pair{L"arrowSurface", &style.arrowSurface.normal},
+        std::pair{L"arrowHotSurface", &style.arrowSurface.hot},
+        std::pair{L"arrowPressedSurface", &style.arrowSurface.pressed},
         std::pair{L"popupSurface", &style.popupSurface},
         std::pair{L"headerSurface", &style.headerSurface},
-        std::pair{L"dayHotSurface", &style.dayHotSurface},
-        std::pair{L"dayPressedSurface", &style.dayPressedSurface},
-        std::pair{L"daySelectedSurface", &style.daySelectedSurface},
+        std::pair{L"dayHotSurface", &style.daySurface.hot},
+        std::pair{L"dayPressedSurface", &style.daySurface.pressed},
+        std::pair{L"daySelectedSurface", &style.daySurface.active},
         std::pair{L"todaySurface", &style.todaySurface}}) {
     surface(reader, name, *field);
   }
@@ -286,19 +288,19 @@ void parseTabStripStyle(const StyleReader& reader, TabStripStyle& style) {
 void parseMenuBarStyle(const StyleReader& reader, MenuBarStyle& style) {
   shapeInto(reader, L"shape", {&style.surface});
   shapeInto(reader, L"itemShape",
-            {&style.itemSurface, &style.itemHotSurface, &style.itemPressedSurface,
-             &style.itemActiveSurface});
+            {&style.itemSurface.normal, &style.itemSurface.hot, &style.itemSurface.pressed,
+             &style.itemSurface.active});
   shapeInto(reader, L"popupShape", {&style.popupSurface});
   shapeInto(reader, L"popupItemShape",
-            {&style.popupItemHotSurface, &style.popupItemPressedSurface});
+            {&style.popupItemSurface.hot, &style.popupItemSurface.pressed});
   for (auto [name, field] :
-       {std::pair{L"surface", &style.surface}, std::pair{L"itemSurface", &style.itemSurface},
-        std::pair{L"itemHotSurface", &style.itemHotSurface},
-        std::pair{L"itemPressedSurface", &style.itemPressedSurface},
-        std::pair{L"itemActiveSurface", &style.itemActiveSurface},
+       {std::pair{L"surface", &style.surface}, std::pair{L"itemSurface", &style.itemSurface.normal},
+        std::pair{L"itemHotSurface", &style.itemSurface.hot},
+        std::pair{L"itemPressedSurface", &style.itemSurface.pressed},
+        std::pair{L"itemActiveSurface", &style.itemSurface.active},
         std::pair{L"popupSurface", &style.popupSurface},
-        std::pair{L"popupItemHotSurface", &style.popupItemHotSurface},
-        std::pair{L"popupItemPressedSurface", &style.popupItemPressedSurface}}) {
+        std::pair{L"popupItemHotSurface", &style.popupItemSurface.hot},
+        std::pair{L"popupItemPressedSurface", &style.popupItemSurface.pressed}}) {
     surface(reader, name, *field);
   }
   text(reader, L"itemText", style.itemText);
@@ -369,16 +371,16 @@ void parseRichTextStyle(const StyleReader& reader, RichTextStyle& style) {
 
 void parseTextInputStyle(const StyleReader& reader, TextInputStyle& style) {
   shapeInto(reader, L"shape",
-            {&style.surface, &style.hotSurface, &style.pressedSurface, &style.disabledSurface,
-             &style.focusedSurface});
+            {&style.surface.normal, &style.surface.hot, &style.surface.pressed,
+             &style.surface.disabled, &style.surface.active});
   shapeInto(reader, L"attachmentShape", {&style.attachmentSurface});
   shapeInto(reader, L"attachmentImageShape", {&style.attachmentImageSurface});
   shapeInto(reader, L"attachmentRemoveShape", {&style.attachmentRemoveSurface});
   for (auto [name, field] :
-       {std::pair{L"surface", &style.surface}, std::pair{L"hotSurface", &style.hotSurface},
-        std::pair{L"pressedSurface", &style.pressedSurface},
-        std::pair{L"disabledSurface", &style.disabledSurface},
-        std::pair{L"focusedSurface", &style.focusedSurface},
+       {std::pair{L"surface", &style.surface.normal}, std::pair{L"hotSurface", &style.surface.hot},
+        std::pair{L"pressedSurface", &style.surface.pressed},
+        std::pair{L"disabledSurface", &style.surface.disabled},
+        std::pair{L"focusedSurface", &style.surface.active},
         std::pair{L"selection", &style.selection},
         std::pair{L"attachmentSurface", &style.attachmentSurface},
         std::pair{L"attachmentImageSurface", &style.attachmentImageSurface},

@@ -204,8 +204,8 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
       auto& c = entry.second;
       (void)id;
       for (SurfaceStyle* box :
-           {&c.boxUnchecked, &c.boxUncheckedHot, &c.boxUncheckedPressed, &c.boxUncheckedDisabled,
-            &c.boxChecked, &c.boxCheckedHot, &c.boxCheckedPressed, &c.boxCheckedDisabled}) {
+           {&c.unchecked.normal, &c.unchecked.hot, &c.unchecked.pressed, &c.unchecked.disabled,
+            &c.checked.normal, &c.checked.hot, &c.checked.pressed, &c.checked.disabled}) {
         box->shape = k;
       }
     }
@@ -215,11 +215,12 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     auto& s = entry.second;
     (void)id;
     with(L"selectbox", [&](ShapeKind k) {
-      s.surface.shape = s.hotSurface.shape = s.pressedSurface.shape = s.disabledSurface.shape = k;
+      s.surface.normal.shape = s.surface.hot.shape = s.surface.pressed.shape =
+          s.surface.disabled.shape = k;
     });
     with(L"selectarrow", [&](ShapeKind k) {
-      s.arrowSurface.shape = s.arrowHotSurface.shape = s.arrowPressedSurface.shape =
-          s.arrowDisabledSurface.shape = k;
+      s.arrowSurface.normal.shape = s.arrowSurface.hot.shape = s.arrowSurface.pressed.shape =
+          s.arrowSurface.disabled.shape = k;
     });
     with(L"selectdropdown", [&](ShapeKind k) { s.dropdownSurface.shape = k; });
   }
@@ -228,15 +229,16 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     auto& l = entry.second;
     (void)id;
     with(L"list", [&](ShapeKind k) {
-      l.surface.shape = l.row.shape = l.rowHot.shape = l.rowPressed.shape = k;
-      l.selectedRow.shape = l.selectedRowHot.shape = l.selectedRail.shape = k;
+      l.surface.shape = l.row.normal.shape = l.row.hot.shape = l.row.pressed.shape = k;
+      l.selectedRow.normal.shape = l.selectedRow.hot.shape = l.selectedRail.shape = k;
     });
     with(L"list.surface", [&](ShapeKind k) { l.surface.shape = k; });
     for (const wchar_t* role : {L"list.row", L"listrow"}) {
-      with(role, [&](ShapeKind k) { l.row.shape = l.rowHot.shape = l.rowPressed.shape = k; });
+      with(role,
+           [&](ShapeKind k) { l.row.normal.shape = l.row.hot.shape = l.row.pressed.shape = k; });
     }
     for (const wchar_t* role : {L"list.selectedrow", L"listselectedrow"}) {
-      with(role, [&](ShapeKind k) { l.selectedRow.shape = l.selectedRowHot.shape = k; });
+      with(role, [&](ShapeKind k) { l.selectedRow.normal.shape = l.selectedRow.hot.shape = k; });
     }
     for (const wchar_t* role : {L"list.selectedrail", L"listselectedrail"}) {
       with(role, [&](ShapeKind k) { l.selectedRail.shape = k; });
@@ -252,12 +254,12 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     (void)id;
     with(L"menubar", [&](ShapeKind k) { menu.surface.shape = k; });
     with(L"menuitem", [&](ShapeKind k) {
-      menu.itemSurface.shape = menu.itemHotSurface.shape = menu.itemPressedSurface.shape =
-          menu.itemActiveSurface.shape = k;
+      menu.itemSurface.normal.shape = menu.itemSurface.hot.shape = menu.itemSurface.pressed.shape =
+          menu.itemSurface.active.shape = k;
     });
     with(L"menupopup", [&](ShapeKind k) { menu.popupSurface.shape = k; });
     with(L"menupopupitem", [&](ShapeKind k) {
-      menu.popupItemHotSurface.shape = menu.popupItemPressedSurface.shape = k;
+      menu.popupItemSurface.hot.shape = menu.popupItemSurface.pressed.shape = k;
     });
   }
   for (auto& entry : richTexts.all()) {
@@ -272,8 +274,8 @@ void StyleSheet::applyShapes(const ShapeSet& set) {
     auto& input = entry.second;
     (void)id;
     with(L"textinput", [&](ShapeKind k) {
-      input.surface.shape = input.hotSurface.shape = input.pressedSurface.shape =
-          input.disabledSurface.shape = input.focusedSurface.shape = k;
+      input.surface.normal.shape = input.surface.hot.shape = input.surface.pressed.shape =
+          input.surface.disabled.shape = input.surface.active.shape = k;
     });
     with(L"textinputattachment", [&](ShapeKind k) { input.attachmentSurface.shape = k; });
   }
@@ -428,23 +430,23 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
     const std::wstring& id = entry.first;
     auto& c = entry.second;
     (void)id;
-    applyMaterial(c.boxUnchecked, p, p.control, -16);
-    applyMaterial(c.boxUncheckedHot, p, p.control, -8);
-    applyMaterial(c.boxUncheckedPressed, p, p.control, -22);
-    applyMaterial(c.boxUncheckedDisabled, p, p.control, -28);
-    applyMaterial(c.boxChecked, p, p.accent, 8);
-    applyMaterial(c.boxCheckedHot, p, p.accent, 16);
-    applyMaterial(c.boxCheckedPressed, p, p.accent, 2);
-    applyMaterial(c.boxCheckedDisabled, p, p.accent, -18);
+    applyMaterial(c.unchecked.normal, p, p.control, -16);
+    applyMaterial(c.unchecked.hot, p, p.control, -8);
+    applyMaterial(c.unchecked.pressed, p, p.control, -22);
+    applyMaterial(c.unchecked.disabled, p, p.control, -28);
+    applyMaterial(c.checked.normal, p, p.accent, 8);
+    applyMaterial(c.checked.hot, p, p.accent, 16);
+    applyMaterial(c.checked.pressed, p, p.accent, 2);
+    applyMaterial(c.checked.disabled, p, p.accent, -18);
   }
   for (auto& entry : selectBoxes.all()) {
     const std::wstring& id = entry.first;
     auto& s = entry.second;
     (void)id;
-    applyMaterial(s.surface, p, p.control, -12);
-    applyMaterial(s.hotSurface, p, p.control, -4);
-    applyMaterial(s.pressedSurface, p, p.control, -18);
-    applyMaterial(s.disabledSurface, p, p.control, -26);
+    applyMaterial(s.surface.normal, p, p.control, -12);
+    applyMaterial(s.surface.hot, p, p.control, -4);
+    applyMaterial(s.surface.pressed, p, p.control, -18);
+    applyMaterial(s.surface.disabled, p, p.control, -26);
     applyMaterial(s.dropdownSurface, p, p.surface, -6);
     materialScrollBar(s.scrollBar, p);
   }
@@ -453,17 +455,17 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
     auto& l = entry.second;
     (void)id;
     applyMaterial(l.surface, p, p.surface, -12);
-    applyMaterial(l.selectedRow, p, p.accent, -10);
-    applyMaterial(l.selectedRowHot, p, p.accent, -4);
+    applyMaterial(l.selectedRow.normal, p, p.accent, -10);
+    applyMaterial(l.selectedRow.hot, p, p.accent, -4);
     materialScrollBar(l.scrollBar, p);
   }
   for (auto& entry : dateInputs.all()) {
     const std::wstring& id = entry.first;
     auto& d = entry.second;
     (void)id;
-    applyMaterial(d.surface, p, p.control, -12);
-    applyMaterial(d.hotSurface, p, p.control, -4);
-    applyMaterial(d.pressedSurface, p, p.control, -18);
+    applyMaterial(d.surface.normal, p, p.control, -12);
+    applyMaterial(d.surface.hot, p, p.control, -4);
+    applyMaterial(d.surface.pressed, p, p.control, -18);
     applyMaterial(d.popupSurface, p, p.surface, -6);
   }
   for (auto& [id, tabs] : tabStrips.all())
@@ -489,9 +491,9 @@ void StyleSheet::applyMaterials(const MaterialProfile& p) {
     const std::wstring& id = entry.first;
     auto& input = entry.second;
     (void)id;
-    applyMaterial(input.surface, p, p.control, -14);
-    applyMaterial(input.hotSurface, p, p.control, -6);
-    applyMaterial(input.focusedSurface, p, p.control, -4);
+    applyMaterial(input.surface.normal, p, p.control, -14);
+    applyMaterial(input.surface.hot, p, p.control, -6);
+    applyMaterial(input.surface.active, p, p.control, -4);
   }
   for (auto& [id, s] : selectableTexts.all())
     applyMaterial(s.surface, p, p.surface, -14);

@@ -11,8 +11,7 @@ namespace tessel {
 struct ButtonStyle {
   ControlStates surface;
   TextStyle text;
-  ShapeKind hitShape = ShapeKind::Rectangle;
-  bool hasHitShape = false;
+  ShapeStyle hitShape;  // when present, clicks land inside this outline only
   bool useSurfaceHitTesting = false;
 };
 

@@ -5,20 +5,15 @@
 #include <cstdint>
 
 #include "tessel/style/color.h"
+#include "tessel/style/control_states.h"
 #include "tessel/style/surface_style.h"
 #include "tessel/style/text_style.h"
 
 namespace tessel {
 
 struct CheckBoxStyle {
-  SurfaceStyle boxUnchecked;
-  SurfaceStyle boxUncheckedHot;
-  SurfaceStyle boxUncheckedPressed;
-  SurfaceStyle boxUncheckedDisabled;
-  SurfaceStyle boxChecked;
-  SurfaceStyle boxCheckedHot;
-  SurfaceStyle boxCheckedPressed;
-  SurfaceStyle boxCheckedDisabled;
+  ControlStates unchecked;  // the box; active is not used
+  ControlStates checked;
   Color checkColor = 0xFFFFFF;
   TextStyle text;
   int32_t boxSize = 18;

@@ -5,24 +5,18 @@
 #include <cstdint>
 
 #include "tessel/style/color.h"
+#include "tessel/style/control_states.h"
 #include "tessel/style/surface_style.h"
 #include "tessel/style/text_style.h"
 
 namespace tessel {
 
 struct DateInputStyle {
-  SurfaceStyle surface;
-  SurfaceStyle hotSurface;
-  SurfaceStyle pressedSurface;
-  SurfaceStyle disabledSurface;
-  SurfaceStyle arrowSurface;
-  SurfaceStyle arrowHotSurface;
-  SurfaceStyle arrowPressedSurface;
+  ControlStates surface;       // the box; active is not used
+  ControlStates arrowSurface;  // normal, hot and pressed
   SurfaceStyle popupSurface;
   SurfaceStyle headerSurface;
-  SurfaceStyle dayHotSurface;
-  SurfaceStyle dayPressedSurface;
-  SurfaceStyle daySelectedSurface;
+  ControlStates daySurface;  // a day cell: hot, pressed, and active for the selected day
   SurfaceStyle todaySurface;
   TextStyle text;
   TextStyle headerText;

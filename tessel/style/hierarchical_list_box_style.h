@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "tessel/style/color.h"
+#include "tessel/style/control_states.h"
 #include "tessel/style/scroll_acceleration.h"
 #include "tessel/style/scroll_bar_style.h"
 #include "tessel/style/surface_style.h"
@@ -14,11 +15,8 @@ namespace tessel {
 
 struct HierarchicalListBoxStyle {
   SurfaceStyle surface;
-  SurfaceStyle row;
-  SurfaceStyle rowHot;
-  SurfaceStyle rowPressed;
-  SurfaceStyle selectedRow;
-  SurfaceStyle selectedRowHot;
+  ControlStates row;          // normal, hot and pressed
+  ControlStates selectedRow;  // normal and hot
   SurfaceStyle selectedRail;
   ScrollBarStyle scrollBar;
   ScrollAcceleration scrollAcceleration;

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "tessel/style/color.h"
+#include "tessel/style/control_states.h"
 #include "tessel/style/surface_style.h"
 #include "tessel/style/text_style.h"
 
@@ -12,13 +13,9 @@ namespace tessel {
 
 struct MenuBarStyle {
   SurfaceStyle surface;
-  SurfaceStyle itemSurface;
-  SurfaceStyle itemHotSurface;
-  SurfaceStyle itemPressedSurface;
-  SurfaceStyle itemActiveSurface;
+  ControlStates itemSurface;  // a bar item; active while its popup is open
   SurfaceStyle popupSurface;
-  SurfaceStyle popupItemHotSurface;
-  SurfaceStyle popupItemPressedSurface;
+  ControlStates popupItemSurface;  // a popup line: hot and pressed
   TextStyle itemText;
   TextStyle shortcutText;
   Color separator = 0x808080;

@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "tessel/style/color.h"
+#include "tessel/style/control_states.h"
 #include "tessel/style/scroll_acceleration.h"
 #include "tessel/style/scroll_bar_style.h"
 #include "tessel/style/surface_style.h"
@@ -13,17 +14,10 @@
 namespace tessel {
 
 struct SelectBoxStyle {
-  SurfaceStyle surface;
-  SurfaceStyle hotSurface;
-  SurfaceStyle pressedSurface;
-  SurfaceStyle disabledSurface;
-  SurfaceStyle arrowSurface;
-  SurfaceStyle arrowHotSurface;
-  SurfaceStyle arrowPressedSurface;
-  SurfaceStyle arrowDisabledSurface;
+  ControlStates surface;       // the closed box; active is not used
+  ControlStates arrowSurface;  // the arrow button; active is not used
   SurfaceStyle dropdownSurface;
-  SurfaceStyle optionHotSurface;
-  SurfaceStyle optionSelectedSurface;
+  ControlStates optionSurface;  // an option: hot, and active for the selected one
   ScrollBarStyle scrollBar;
   ScrollAcceleration scrollAcceleration;
   TextStyle text;

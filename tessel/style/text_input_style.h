@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "tessel/style/color.h"
+#include "tessel/style/control_states.h"
 #include "tessel/style/scroll_acceleration.h"
 #include "tessel/style/surface_style.h"
 #include "tessel/style/text_style.h"
@@ -12,11 +13,7 @@
 namespace tessel {
 
 struct TextInputStyle {
-  SurfaceStyle surface;
-  SurfaceStyle hotSurface;
-  SurfaceStyle pressedSurface;
-  SurfaceStyle disabledSurface;
-  SurfaceStyle focusedSurface;
+  ControlStates surface;  // active while the input has the focus
   SurfaceStyle selection;
   SurfaceStyle attachmentSurface;
   SurfaceStyle attachmentImageSurface;

@@ -48,8 +48,8 @@ TEST(ButtonParser, ShapeSetsAllStatesAndHitShapeOnlyTheClickOutline) {
   EXPECT_EQ(button.surface.normal.shape, ShapeKind::Capsule);
   EXPECT_EQ(button.surface.active.shape, ShapeKind::Capsule);
   EXPECT_EQ(button.surface.pressed.shape, ShapeKind::Hexagon);  // the state's own key is later
-  EXPECT_TRUE(button.hasHitShape);
-  EXPECT_EQ(button.hitShape, ShapeKind::Diamond);
+  EXPECT_TRUE(button.hitShape.present);
+  EXPECT_EQ(button.hitShape.kind, ShapeKind::Diamond);
   EXPECT_TRUE(button.useSurfaceHitTesting);
 }
 

@@ -72,7 +72,7 @@ TEST(StyleSheet, MaterialDeltasByRoleAndState) {
   EXPECT_EQ(primary.surface.hot.materialStrength, 136);
   EXPECT_EQ(sheet.panels.get(L"glass").surface.material, MaterialKind::FrostedGlass);
   EXPECT_EQ(sheet.panels.get(L"glass").surface.materialStrength, 124);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").boxUnchecked.materialStrength, 104);
+  EXPECT_EQ(sheet.checkBoxes.get(L"default").unchecked.normal.materialStrength, 104);
   EXPECT_EQ(sheet.scrollBars.get(L"default").thumb.pressed.materialStrength, 106);
   // Without a profile nothing changes.
   EXPECT_EQ(StyleSheet(Skin(L"")).buttons.get(L"default").surface.normal.material,
@@ -90,7 +90,7 @@ TEST(StyleSheet, ShapeRolesReachTheirRecords) {
   EXPECT_NE(sheet.tableLists.get(L"default").row.shape, ShapeKind::Bevel);
   EXPECT_EQ(sheet.scrollBars.get(L"default").thumbThickness, 7);
   EXPECT_EQ(sheet.selectBoxes.get(L"default").scrollBar.thumbThickness, 7);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").boxCheckedHot.shape, ShapeKind::Diamond);
+  EXPECT_EQ(sheet.checkBoxes.get(L"default").checked.hot.shape, ShapeKind::Diamond);
 }
 
 TEST(StyleSheet, WindowOverridesOnlyWithTheDefaultId) {
