@@ -80,7 +80,6 @@ set(STAYHOLD_PORTABLE_SOURCES
   tessel/paint/ui_performance.cpp
   tessel/paint/gradient.cpp
   tessel/skin/app_skin_catalogue.cpp
-  tessel/skin/control_style_parsers.cpp
   tessel/skin/json_access.cpp
   tessel/skin/json_value.cpp
   tessel/skin/material_preset.cpp

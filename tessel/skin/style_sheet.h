@@ -109,9 +109,4 @@ class StyleSheet {
   WindowStyle window_;
 };
 
-// Lays the skin-wide material over one surface: the kind of a slot, the profile's values and a
-// strength moved by `delta` for the role and state. Nothing when the profile is not enabled.
-void applyMaterial(SurfaceStyle& surface, const MaterialProfile& profile, MaterialKind kind,
-                   int32_t delta);
-
 }  // namespace tessel
