@@ -7,7 +7,7 @@
 #include <string>
 
 #include "base/wide_text.h"
-#include "tessel/skin/control_style_parsers.h"
+#include "tessel/skin/style_record.h"
 #include "tessel/skin/json_value.h"
 #include "tessel/skin/skin_catalogue.h"
 #include "tessel/skin/style_sheet.h"
@@ -92,45 +92,45 @@ void FlattenAndParseStyleSet(benchmark::State& state) {
     PropertyTable table;
     flattenProperties(value, L"", table);
     ButtonStyle button = buildButtonStyle(theme, SurfaceMode::Sculpted3d, ButtonTone::Primary);
-    parseButtonStyle(StyleReader(table, L"button", context), button);
+    parseStyle(StyleReader(table, L"button", context), button);
     PanelStyle panel = buildPanelStyle(theme, SurfaceMode::Sculpted3d, PanelTone::Default);
-    parsePanelStyle(StyleReader(table, L"panel", context), panel);
+    parseStyle(StyleReader(table, L"panel", context), panel);
     CardStyle card = buildCardStyle(theme, SurfaceMode::Sculpted3d, CardTone::Default);
-    parseCardStyle(StyleReader(table, L"card", context), card);
+    parseStyle(StyleReader(table, L"card", context), card);
     ChromeTitleBarStyle chrome = buildChromeTitleBarStyle(theme, SurfaceMode::Sculpted3d);
-    parseChromeTitleBarStyle(StyleReader(table, L"chrome", context), chrome);
+    parseStyle(StyleReader(table, L"chrome", context), chrome);
     StatusChipStyle chip = buildStatusChipStyle(theme, SurfaceMode::Sculpted3d);
-    parseStatusChipStyle(StyleReader(table, L"chip", context), chip);
+    parseStyle(StyleReader(table, L"chip", context), chip);
     ProgressBarStyle progress = buildProgressBarStyle(theme, SurfaceMode::Sculpted3d);
-    parseProgressBarStyle(StyleReader(table, L"progress", context), progress);
+    parseStyle(StyleReader(table, L"progress", context), progress);
     ScrollBarStyle scroll = buildScrollBarStyle(theme, SurfaceMode::Sculpted3d);
-    parseScrollBarStyle(StyleReader(table, L"scroll", context), scroll);
+    parseStyle(StyleReader(table, L"scroll", context), scroll);
     CheckBoxStyle check = buildCheckBoxStyle(theme, SurfaceMode::Sculpted3d);
-    parseCheckBoxStyle(StyleReader(table, L"check", context), check);
+    parseStyle(StyleReader(table, L"check", context), check);
     SelectBoxStyle select = buildSelectBoxStyle(theme, SurfaceMode::Sculpted3d);
-    parseSelectBoxStyle(StyleReader(table, L"select", context), select);
+    parseStyle(StyleReader(table, L"select", context), select);
     HierarchicalListBoxStyle list = buildHierarchicalListBoxStyle(theme, SurfaceMode::Sculpted3d);
-    parseHierarchicalListBoxStyle(StyleReader(table, L"list", context), list);
+    parseStyle(StyleReader(table, L"list", context), list);
     DateInputStyle date = buildDateInputStyle(theme, SurfaceMode::Sculpted3d);
-    parseDateInputStyle(StyleReader(table, L"date", context), date);
+    parseStyle(StyleReader(table, L"date", context), date);
     TabStripStyle tabs = buildTabStripStyle(theme, SurfaceMode::Sculpted3d);
-    parseTabStripStyle(StyleReader(table, L"tabs", context), tabs);
+    parseStyle(StyleReader(table, L"tabs", context), tabs);
     MenuBarStyle menu = buildMenuBarStyle(theme, SurfaceMode::Sculpted3d);
-    parseMenuBarStyle(StyleReader(table, L"menu", context), menu);
+    parseStyle(StyleReader(table, L"menu", context), menu);
     TableListStyle tableList = buildTableListStyle(theme, SurfaceMode::Sculpted3d);
-    parseTableListStyle(StyleReader(table, L"table", context), tableList);
+    parseStyle(StyleReader(table, L"table", context), tableList);
     RichTextStyle rich = buildRichTextStyle(theme, SurfaceMode::Sculpted3d);
-    parseRichTextStyle(StyleReader(table, L"rich", context), rich);
+    parseStyle(StyleReader(table, L"rich", context), rich);
     TextInputStyle input = buildTextInputStyle(theme, SurfaceMode::Sculpted3d);
-    parseTextInputStyle(StyleReader(table, L"input", context), input);
+    parseStyle(StyleReader(table, L"input", context), input);
     SelectableTextStyle selectable = buildSelectableTextStyle(theme, SurfaceMode::Sculpted3d);
-    parseSelectableTextStyle(StyleReader(table, L"selectable", context), selectable);
+    parseStyle(StyleReader(table, L"selectable", context), selectable);
     PopupStyle popup = buildPopupStyle(theme, SurfaceMode::Sculpted3d);
-    parsePopupStyle(StyleReader(table, L"popup", context), popup);
+    parseStyle(StyleReader(table, L"popup", context), popup);
     TooltipStyle tooltip = buildTooltipStyle(theme, SurfaceMode::Sculpted3d);
-    parseTooltipStyle(StyleReader(table, L"tooltip", context), tooltip);
+    parseStyle(StyleReader(table, L"tooltip", context), tooltip);
     WindowStyle window = buildWindowStyle(theme, SurfaceMode::Sculpted3d);
-    parseWindowStyle(StyleReader(table, L"window", context), window);
+    parseStyle(StyleReader(table, L"window", context), window);
     benchmark::DoNotOptimize(button);
     benchmark::DoNotOptimize(date);
     benchmark::DoNotOptimize(window);

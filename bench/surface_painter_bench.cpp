@@ -38,9 +38,9 @@ void PaintDialog(Canvas& canvas, const StyleSheet& sheet, UiPerformanceProfile p
   drawSurface(canvas, Rect{40, 110, 300, 26}, sheet.statusChips.get(L"stayhold-active").surface,
               profile);
   const SelectBoxStyle& select = sheet.selectBoxes.get(L"stayhold-select");
-  drawSurface(canvas, Rect{40, 150, 260, 32}, select.surface, profile);
+  drawSurface(canvas, Rect{40, 150, 260, 32}, select.surface.normal, profile);
   const TextInputStyle& input = sheet.textInputs.get(L"stayhold-input");
-  drawSurface(canvas, Rect{320, 150, 260, 32}, input.surface, profile);
+  drawSurface(canvas, Rect{320, 150, 260, 32}, input.surface.normal, profile);
   const TableListStyle& table = sheet.tableLists.get(L"stayhold-table");
   drawSurface(canvas, Rect{40, 280, 820, 280}, table.surface, profile);
   drawSurface(canvas, Rect{40, 280, 820, 30}, table.header, profile);

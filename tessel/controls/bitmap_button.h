@@ -11,6 +11,7 @@
 #include "tessel/core/control.h"
 #include "tessel/style/image.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/bitmap_button_style.h"
 
 namespace tessel {
 

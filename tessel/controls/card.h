@@ -11,6 +11,7 @@
 
 #include "tessel/core/panel.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/card_style.h"
 
 namespace tessel {
 

@@ -22,10 +22,11 @@ const wchar_t* boolText(bool value) {
 
 const SurfaceStyle& checkBoxSurface(const CheckBoxStyle& style, bool checked, bool enabled,
                                     bool pressed, bool hot) {
-  if (!enabled) return checked ? style.boxCheckedDisabled : style.boxUncheckedDisabled;
-  if (pressed) return checked ? style.boxCheckedPressed : style.boxUncheckedPressed;
-  if (hot) return checked ? style.boxCheckedHot : style.boxUncheckedHot;
-  return checked ? style.boxChecked : style.boxUnchecked;
+  const ControlStates& box = checked ? style.checked : style.unchecked;
+  if (!enabled) return box.disabled;
+  if (pressed) return box.pressed;
+  if (hot) return box.hot;
+  return box.normal;
 }
 
 Rect checkBoxRect(const Rect& bounds, int32_t boxSize) {

@@ -9,6 +9,7 @@
 
 #include "tessel/core/control.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/check_box_style.h"
 
 namespace tessel {
 

@@ -11,6 +11,7 @@
 #include "tessel/controls/themed_button.h"
 #include "tessel/core/panel.h"
 #include "tessel/paint/chrome_glyphs.h"
+#include "tessel/style/chrome_title_bar_style.h"
 
 namespace tessel {
 

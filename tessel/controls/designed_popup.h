@@ -12,6 +12,8 @@
 #include "tessel/core/control.h"
 #include "tessel/paint/chrome_glyphs.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/button_style.h"
+#include "tessel/style/popup_style.h"
 
 namespace tessel {
 

@@ -8,6 +8,7 @@
 
 #include "tessel/core/control.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/progress_bar_style.h"
 
 namespace tessel {
 

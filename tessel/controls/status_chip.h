@@ -7,6 +7,7 @@
 
 #include "tessel/core/control.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/status_chip_style.h"
 
 namespace tessel {
 

@@ -135,8 +135,8 @@ bool ThemedButton::containsPoint(Point local) const {
   const Size size{bounds().width, bounds().height};
   if (!Rect{0, 0, size.width, size.height}.contains(local.x, local.y)) return false;
   if (!useShapeHit_ && !style_.useSurfaceHitTesting) return true;
-  if (style_.hasHitShape) {
-    return isInsideShape(style_.hitShape, size.width, size.height, local.x, local.y);
+  if (style_.hitShape.present) {
+    return isInsideShape(style_.hitShape.kind, size.width, size.height, local.x, local.y);
   }
   // The rest surface decides, so that the outline does not move under a pressed pointer.
   return hitTestSurface(style_.surface.normal, size, local);

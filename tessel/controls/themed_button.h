@@ -10,6 +10,7 @@
 
 #include "tessel/core/control.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/button_style.h"
 
 namespace tessel {
 

@@ -9,6 +9,7 @@
 
 #include "tessel/core/panel.h"
 #include "tessel/skin/style_builders.h"
+#include "tessel/style/panel_style.h"
 
 namespace tessel {
 

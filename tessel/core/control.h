@@ -17,7 +17,7 @@
 #include "tessel/style/geometry.h"
 #include "tessel/core/signal.h"
 #include "tessel/paint/canvas.h"
-#include "tessel/style/control_styles.h"
+#include "tessel/style/tooltip_style.h"
 #include "tessel/style/surface_style.h"
 
 namespace tessel {

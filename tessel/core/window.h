@@ -17,7 +17,8 @@
 #include "tessel/core/window_platform.h"
 #include "tessel/paint/canvas.h"
 #include "tessel/paint/ui_performance.h"
-#include "tessel/style/control_styles.h"
+#include "tessel/style/tooltip_style.h"
+#include "tessel/style/window_style.h"
 
 namespace tessel {
 

@@ -1,6 +1,7 @@
 // The words of the material vocabulary: named presets that fill about twenty surface values at
 // once, the names of the material kinds, and the finishes that nudge a material toward a surface
-// treatment. Every word is compared after normalizeKey, so case, blanks, "_" and "-" don't count.
+// treatment; and how a preset or the skin-wide material lands on a surface. Every word is
+// compared after normalizeKey, so case, blanks, "_" and "-" don't count.
 #pragma once
 
 #include <cstdint>
@@ -12,6 +13,8 @@
 #include "tessel/style/surface_style.h"
 
 namespace tessel {
+
+struct MaterialProfile;
 
 // Finish numbers as stored in SurfaceStyle::finish; the shader reads the same numbers.
 struct Finish {
@@ -51,7 +54,8 @@ struct MaterialPreset {
   int32_t finish = Finish::Default;
 };
 
-// The fixed table in lookup order, built once on first use and read-only afterwards.
+// The fixed table in lookup order, built once on first use and read-only afterwards. An alias
+// ("zula") repeats its original's row and noise seed under its own name.
 const std::vector<MaterialPreset>& materialPresets();
 
 // The first preset whose name equals the normalized word; nullptr when none does.
@@ -71,5 +75,11 @@ void applyFinish(SurfaceStyle& surface, int32_t finish);
 // Copies every value of the row onto the surface, then applies the row's finish. Strength is
 // left alone when the row's kind is None.
 void applyMaterialPreset(SurfaceStyle& surface, const MaterialPreset& preset);
+
+// Lays the skin-wide material over one surface: the kind of a slot, the profile's values and a
+// strength moved by `delta` for the role and state (none for the kind None); gradients follow
+// the fill. Nothing when the profile is not enabled.
+void applyMaterial(SurfaceStyle& surface, const MaterialProfile& profile, MaterialKind kind,
+                   int32_t delta);
 
 }  // namespace tessel

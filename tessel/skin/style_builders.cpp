@@ -306,18 +306,18 @@ CheckBoxStyle buildCheckBoxStyle(const Theme& theme, SurfaceMode mode) {
   CheckBoxStyle style;
   const ShapeKind shape = ShapeKind::RoundedRect;
   const Color borderOff = mixColor(theme.border, theme.text, 0.25);
-  style.boxUnchecked = plate(theme, mode, theme.shell, borderOff, kCheckSeed, shape);
-  style.boxUncheckedHot = plate(theme, mode, theme.controlHot, theme.accentHot, kCheckSeed, shape);
-  style.boxUncheckedPressed =
+  style.unchecked.normal = plate(theme, mode, theme.shell, borderOff, kCheckSeed, shape);
+  style.unchecked.hot = plate(theme, mode, theme.controlHot, theme.accentHot, kCheckSeed, shape);
+  style.unchecked.pressed =
       plate(theme, mode, theme.controlPressed, theme.accentHot, kCheckSeed, shape);
-  style.boxUncheckedDisabled =
+  style.unchecked.disabled =
       plate(theme, mode, theme.disabledFill, theme.disabledText, kCheckSeed, shape);
-  style.boxChecked = plate(theme, mode, theme.accent, theme.accentHot, kCheckSeed, shape);
-  style.boxCheckedHot = plate(theme, mode, theme.accentHot, theme.textHot, kCheckSeed, shape);
-  style.boxCheckedPressed = plate(theme, mode, mixColor(theme.accent, theme.shell, 0.2),
-                                  theme.accentHot, kCheckSeed, shape);
-  style.boxCheckedDisabled = plate(theme, mode, mixColor(theme.disabledFill, theme.accent, 0.3),
-                                   theme.disabledText, kCheckSeed, shape);
+  style.checked.normal = plate(theme, mode, theme.accent, theme.accentHot, kCheckSeed, shape);
+  style.checked.hot = plate(theme, mode, theme.accentHot, theme.textHot, kCheckSeed, shape);
+  style.checked.pressed = plate(theme, mode, mixColor(theme.accent, theme.shell, 0.2),
+                                theme.accentHot, kCheckSeed, shape);
+  style.checked.disabled = plate(theme, mode, mixColor(theme.disabledFill, theme.accent, 0.3),
+                                 theme.disabledText, kCheckSeed, shape);
   style.checkColor = theme.shell;
   style.text = theme.uiFont;
   return style;
@@ -326,28 +326,25 @@ CheckBoxStyle buildCheckBoxStyle(const Theme& theme, SurfaceMode mode) {
 SelectBoxStyle buildSelectBoxStyle(const Theme& theme, SurfaceMode mode) {
   SelectBoxStyle style;
   const ShapeKind shape = ShapeKind::RoundedRect;
-  style.surface = plate(theme, mode, restFill(theme), theme.border, kSelectSeed, shape);
-  style.hotSurface = plate(theme, mode, theme.controlHot, theme.accentHot, kSelectSeed, shape);
-  style.pressedSurface =
+  style.surface.normal = plate(theme, mode, restFill(theme), theme.border, kSelectSeed, shape);
+  style.surface.hot = plate(theme, mode, theme.controlHot, theme.accentHot, kSelectSeed, shape);
+  style.surface.pressed =
       plate(theme, mode, theme.controlPressed, theme.accentHot, kSelectSeed, shape);
-  style.disabledSurface =
+  style.surface.disabled =
       plate(theme, mode, theme.disabledFill, theme.disabledText, kSelectSeed, shape);
   style.arrowSurface = style.surface;
-  style.arrowSurface.drawBorder = false;
-  style.arrowHotSurface = style.hotSurface;
-  style.arrowPressedSurface = style.pressedSurface;
-  style.arrowDisabledSurface = style.disabledSurface;
+  style.arrowSurface.normal.drawBorder = false;
   style.dropdownSurface =
       surface(theme, mode, theme.panel, theme.shell, 0.2, theme.border, kSelectSeed, true, shape);
-  style.optionHotSurface = plate(theme, mode, theme.controlHot, theme.controlHot, kSelectSeed);
-  style.optionSelectedSurface =
+  style.optionSurface.hot = plate(theme, mode, theme.controlHot, theme.controlHot, kSelectSeed);
+  style.optionSurface.active =
       plate(theme, mode, mixColor(theme.controlHot, theme.accent, 0.35), theme.accent, kSelectSeed);
   style.scrollBar = buildScrollBarStyle(theme, mode);
   style.text = theme.uiFont;
   style.arrowColor = theme.accentHot;
   for (SurfaceStyle* s :
-       {&style.surface, &style.hotSurface, &style.pressedSurface, &style.dropdownSurface,
-        &style.optionHotSurface, &style.optionSelectedSurface})
+       {&style.surface.normal, &style.surface.hot, &style.surface.pressed, &style.dropdownSurface,
+        &style.optionSurface.hot, &style.optionSurface.active})
     keepReadable(*s, style.text.color);
   return style;
 }
@@ -355,14 +352,14 @@ SelectBoxStyle buildSelectBoxStyle(const Theme& theme, SurfaceMode mode) {
 HierarchicalListBoxStyle buildHierarchicalListBoxStyle(const Theme& theme, SurfaceMode mode) {
   HierarchicalListBoxStyle style;
   style.surface = plate(theme, mode, theme.shell, theme.border, kListSeed);
-  style.row = plate(theme, mode, theme.shell, theme.shell, kListSeed);
-  style.row.drawFill = style.row.drawBorder = false;
-  style.rowHot = plate(theme, mode, theme.controlHot, theme.controlHot, kListSeed);
-  style.rowPressed = plate(theme, mode, theme.controlPressed, theme.controlPressed, kListSeed);
-  style.selectedRow =
+  style.row.normal = plate(theme, mode, theme.shell, theme.shell, kListSeed);
+  style.row.normal.drawFill = style.row.normal.drawBorder = false;
+  style.row.hot = plate(theme, mode, theme.controlHot, theme.controlHot, kListSeed);
+  style.row.pressed = plate(theme, mode, theme.controlPressed, theme.controlPressed, kListSeed);
+  style.selectedRow.normal =
       plate(theme, mode, mixColor(theme.controlHot, theme.accent, 0.3), theme.accent, kListSeed);
-  style.selectedRowHot = plate(theme, mode, mixColor(theme.controlHot, theme.accentHot, 0.4),
-                               theme.accentHot, kListSeed);
+  style.selectedRow.hot = plate(theme, mode, mixColor(theme.controlHot, theme.accentHot, 0.4),
+                                theme.accentHot, kListSeed);
   style.selectedRail = plate(theme, mode, theme.accentHot, theme.accentHot, kListSeed);
   style.scrollBar = buildScrollBarStyle(theme, mode);
   style.text = theme.uiFont;
@@ -372,8 +369,8 @@ HierarchicalListBoxStyle buildHierarchicalListBoxStyle(const Theme& theme, Surfa
   style.disabledText.color = theme.disabledText;
   style.separator = mixColor(theme.border, theme.shell, 0.4);
   keepReadable(style.surface, style.text.color);
-  keepReadable(style.selectedRow, style.selectedText.color);
-  keepReadable(style.selectedRowHot, style.selectedText.color);
+  keepReadable(style.selectedRow.normal, style.selectedText.color);
+  keepReadable(style.selectedRow.hot, style.selectedText.color);
   return style;
 }
 
@@ -381,19 +378,14 @@ DateInputStyle buildDateInputStyle(const Theme& theme, SurfaceMode mode) {
   DateInputStyle style;
   const SelectBoxStyle select = buildSelectBoxStyle(theme, mode);
   style.surface = select.surface;
-  style.hotSurface = select.hotSurface;
-  style.pressedSurface = select.pressedSurface;
-  style.disabledSurface = select.disabledSurface;
   style.arrowSurface = select.arrowSurface;
-  style.arrowHotSurface = select.arrowHotSurface;
-  style.arrowPressedSurface = select.arrowPressedSurface;
   style.popupSurface = select.dropdownSurface;
   style.headerSurface = plate(theme, mode, theme.header, theme.border, kDateSeed);
-  style.dayHotSurface =
+  style.daySurface.hot =
       plate(theme, mode, theme.controlHot, theme.controlHot, kDateSeed, ShapeKind::RoundedRect);
-  style.dayPressedSurface = plate(theme, mode, theme.controlPressed, theme.controlPressed,
-                                  kDateSeed, ShapeKind::RoundedRect);
-  style.daySelectedSurface =
+  style.daySurface.pressed = plate(theme, mode, theme.controlPressed, theme.controlPressed,
+                                   kDateSeed, ShapeKind::RoundedRect);
+  style.daySurface.active =
       plate(theme, mode, theme.accent, theme.accentHot, kDateSeed, ShapeKind::RoundedRect);
   style.todaySurface =
       plate(theme, mode, theme.panel, theme.accentHot, kDateSeed, ShapeKind::RoundedRect);
@@ -408,7 +400,7 @@ DateInputStyle buildDateInputStyle(const Theme& theme, SurfaceMode mode) {
   style.mutedDayText = buildTextStyle(theme, TextTone::Muted);
   style.mutedDayText.color = theme.disabledText;
   style.arrowColor = theme.accentHot;
-  keepReadable(style.surface, style.text.color);
+  keepReadable(style.surface.normal, style.text.color);
   return style;
 }
 
@@ -425,24 +417,24 @@ TabStripStyle buildTabStripStyle(const Theme& theme, SurfaceMode mode) {
 MenuBarStyle buildMenuBarStyle(const Theme& theme, SurfaceMode mode) {
   MenuBarStyle style;
   style.surface = plate(theme, mode, theme.header, theme.border, kMenuSeed);
-  style.itemSurface = plate(theme, mode, theme.header, theme.header, kMenuSeed);
-  style.itemSurface.drawFill = style.itemSurface.drawBorder = false;
-  style.itemHotSurface =
+  style.itemSurface.normal = plate(theme, mode, theme.header, theme.header, kMenuSeed);
+  style.itemSurface.normal.drawFill = style.itemSurface.normal.drawBorder = false;
+  style.itemSurface.hot =
       plate(theme, mode, theme.controlHot, theme.controlHot, kMenuSeed, ShapeKind::RoundedRect);
-  style.itemPressedSurface = plate(theme, mode, theme.controlPressed, theme.controlPressed,
-                                   kMenuSeed, ShapeKind::RoundedRect);
-  style.itemActiveSurface = style.itemPressedSurface;
+  style.itemSurface.pressed = plate(theme, mode, theme.controlPressed, theme.controlPressed,
+                                    kMenuSeed, ShapeKind::RoundedRect);
+  style.itemSurface.active = style.itemSurface.pressed;
   style.popupSurface = surface(theme, mode, theme.panel, theme.shell, 0.2, theme.border, kMenuSeed,
                                true, ShapeKind::RoundedRect);
-  style.popupItemHotSurface = style.itemHotSurface;
-  style.popupItemPressedSurface = style.itemPressedSurface;
+  style.popupItemSurface.hot = style.itemSurface.hot;
+  style.popupItemSurface.pressed = style.itemSurface.pressed;
   style.itemText = theme.uiFont;
   style.shortcutText = buildTextStyle(theme, TextTone::Muted);
   style.separator = mixColor(theme.border, theme.text, 0.15);
   style.check = theme.accentHot;
   style.arrow = theme.mutedText;
-  for (SurfaceStyle* s : {&style.surface, &style.popupSurface, &style.itemHotSurface,
-                          &style.popupItemHotSurface, &style.itemPressedSurface})
+  for (SurfaceStyle* s : {&style.surface, &style.popupSurface, &style.itemSurface.hot,
+                          &style.popupItemSurface.hot, &style.itemSurface.pressed})
     keepReadable(*s, style.itemText.color);
   return style;
 }
@@ -492,15 +484,15 @@ RichTextStyle buildRichTextStyle(const Theme& theme, SurfaceMode mode) {
 TextInputStyle buildTextInputStyle(const Theme& theme, SurfaceMode mode) {
   TextInputStyle style;
   const ShapeKind shape = ShapeKind::RoundedRect;
-  style.surface = plate(theme, mode, theme.shell, theme.border, kInputSeed, shape);
-  style.hotSurface = plate(theme, mode, theme.shell, theme.accentHot, kInputSeed, shape);
-  style.pressedSurface = style.hotSurface;
-  style.disabledSurface =
+  style.surface.normal = plate(theme, mode, theme.shell, theme.border, kInputSeed, shape);
+  style.surface.hot = plate(theme, mode, theme.shell, theme.accentHot, kInputSeed, shape);
+  style.surface.pressed = style.surface.hot;
+  style.surface.disabled =
       plate(theme, mode, theme.disabledFill, theme.disabledText, kInputSeed, shape);
-  style.focusedSurface = plate(theme, mode, theme.shell, theme.accent, kInputSeed, shape);
-  style.focusedSurface.showOutline = true;
-  style.focusedSurface.outlineWidth = 1;
-  style.focusedSurface.outline = theme.accentHot;
+  style.surface.active = plate(theme, mode, theme.shell, theme.accent, kInputSeed, shape);
+  style.surface.active.showOutline = true;
+  style.surface.active.outlineWidth = 1;
+  style.surface.active.outline = theme.accentHot;
   style.selection =
       plate(theme, mode, mixColor(theme.shell, theme.accent, 0.45), theme.accent, kInputSeed);
   style.selection.drawBorder = false;
@@ -515,9 +507,9 @@ TextInputStyle buildTextInputStyle(const Theme& theme, SurfaceMode mode) {
   style.attachmentText = buildTextStyle(theme, TextTone::Muted);
   style.caretColor = theme.textHot;
   style.attachmentIconColor = theme.mutedText;
-  for (SurfaceStyle* s : {&style.surface, &style.hotSurface, &style.focusedSurface})
+  for (SurfaceStyle* s : {&style.surface.normal, &style.surface.hot, &style.surface.active})
     keepReadable(*s, style.text.color);
-  keepReadable(style.surface, style.placeholderText.color, 3.1);
+  keepReadable(style.surface.normal, style.placeholderText.color, 3.1);
   return style;
 }
 

@@ -3,7 +3,27 @@
 // pressed take the palette's own states, accents use `accent`, disabled uses `disabledFill`.
 #pragma once
 
-#include "tessel/style/control_styles.h"
+#include "tessel/style/bitmap_button_style.h"
+#include "tessel/style/button_style.h"
+#include "tessel/style/card_style.h"
+#include "tessel/style/check_box_style.h"
+#include "tessel/style/chrome_title_bar_style.h"
+#include "tessel/style/date_input_style.h"
+#include "tessel/style/hierarchical_list_box_style.h"
+#include "tessel/style/menu_bar_style.h"
+#include "tessel/style/panel_style.h"
+#include "tessel/style/popup_style.h"
+#include "tessel/style/progress_bar_style.h"
+#include "tessel/style/rich_text_style.h"
+#include "tessel/style/scroll_bar_style.h"
+#include "tessel/style/select_box_style.h"
+#include "tessel/style/selectable_text_style.h"
+#include "tessel/style/status_chip_style.h"
+#include "tessel/style/tab_strip_style.h"
+#include "tessel/style/table_list_style.h"
+#include "tessel/style/text_input_style.h"
+#include "tessel/style/tooltip_style.h"
+#include "tessel/style/window_style.h"
 #include "tessel/style/surface_mode.h"
 #include "tessel/skin/theme.h"
 

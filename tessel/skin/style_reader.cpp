@@ -73,6 +73,14 @@ bool parseStyleBool(const std::wstring& text, bool& value) {
   return false;
 }
 
+bool parseStyleReal(const std::wstring& text, float& value) {
+  wchar_t* end = nullptr;
+  const double number = std::wcstod(text.c_str(), &end);
+  if (end == text.c_str()) return false;
+  value = static_cast<float>(number);
+  return true;
+}
+
 // Names given in code are mostly plain ASCII words; those need only lower-casing.
 std::wstring StyleReader::keyFor(const std::wstring& name) const {
   bool plain = !name.empty() && name.front() != L'.' && name.back() != L'.';
@@ -137,16 +145,6 @@ void StyleReader::byte(std::initializer_list<const wchar_t*> names, uint8_t& val
 void StyleReader::flag(std::initializer_list<const wchar_t*> names, bool& value) const {
   for (const wchar_t* name : names)
     if (const std::wstring* text = find(name)) parseStyleBool(*text, value);
-}
-
-void StyleReader::real(std::initializer_list<const wchar_t*> names, float& value) const {
-  for (const wchar_t* name : names) {
-    const std::wstring* text = find(name);
-    if (text == nullptr) continue;
-    wchar_t* end = nullptr;
-    const double number = std::wcstod(text->c_str(), &end);
-    if (end != text->c_str()) value = static_cast<float>(number);
-  }
 }
 
 bool StyleReader::shape(const std::wstring& name, ShapeKind& value) const {

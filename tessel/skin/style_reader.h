@@ -34,6 +34,8 @@ bool parseStyleByte(const std::wstring& text, uint8_t& value);
 bool parseFontWeight(const std::wstring& text, int32_t& weight);
 // true/1/yes/on and false/0/no/off after trimming and lower-casing.
 bool parseStyleBool(const std::wstring& text, bool& value);
+// The leading decimal number of the text, as wcstod reads it.
+bool parseStyleReal(const std::wstring& text, float& value);
 
 class StyleReader {
  public:
@@ -57,7 +59,6 @@ class StyleReader {
   void integer(std::initializer_list<const wchar_t*> names, int32_t& value) const;
   void byte(std::initializer_list<const wchar_t*> names, uint8_t& value) const;
   void flag(std::initializer_list<const wchar_t*> names, bool& value) const;
-  void real(std::initializer_list<const wchar_t*> names, float& value) const;
   // A shape as a word, or an object whose `shape`, `surface` or `value` member holds one.
   bool shape(const std::wstring& name, ShapeKind& value) const;
 

@@ -1,6 +1,6 @@
 // The looks of a control per interaction state: a surface or a bitmap tint for normal, hot,
-// pressed, disabled and active (checked, open). Plain values that skins fill and controls pick
-// from.
+// pressed, disabled and active (checked, open, selected, or focused for a text field). Plain
+// values that skins fill and controls pick from; a control leaves the states it lacks unused.
 #pragma once
 
 #include "tessel/style/bitmap_tint.h"

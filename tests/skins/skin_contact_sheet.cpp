@@ -119,15 +119,15 @@ void DrawSkin(Image& image, int top, const SkinDefinition& skin) {
   x += 130;
   const TextInputStyle& input = sheet.textInputs.get(L"stayhold-input");
   const Rect inputRect{x, top + 8, 140, 26};
-  Paint(image, inputRect, input.surface);
+  Paint(image, inputRect, input.surface.normal);
   DrawBitmapText(image, x + 8, top + 18, "WORK WEEK", input.text.color, 1);
   const Rect placeholderRect{x, top + 40, 140, 26};
-  Paint(image, placeholderRect, input.focusedSurface);
+  Paint(image, placeholderRect, input.surface.active);
   DrawBitmapText(image, x + 8, top + 50, "PLACEHOLDER", input.placeholderText.color, 1);
   x += 150;
   const CheckBoxStyle& check = sheet.checkBoxes.get(L"stayhold-option");
-  Paint(image, Rect{x, top + 10, 16, 16}, check.boxChecked);
-  Paint(image, Rect{x, top + 42, 16, 16}, check.boxUnchecked);
+  Paint(image, Rect{x, top + 10, 16, 16}, check.checked.normal);
+  Paint(image, Rect{x, top + 42, 16, 16}, check.unchecked.normal);
   DrawBitmapText(image, x + 22, top + 15, "ON", check.text.color, 1);
   DrawBitmapText(image, x + 22, top + 47, "OFF", check.text.color, 1);
 }

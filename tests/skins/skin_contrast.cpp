@@ -96,18 +96,18 @@ std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
                sheet.panels.get(L"default").surface, kBody);
   }
   for (const auto& [id, select] : sheet.selectBoxes.all()) {
-    check.text(L"select " + id, select.text.color, select.surface, kBody);
-    check.text(L"select " + id + L" hot", select.text.color, select.hotSurface, kBody);
+    check.text(L"select " + id, select.text.color, select.surface.normal, kBody);
+    check.text(L"select " + id + L" hot", select.text.color, select.surface.hot, kBody);
     check.text(L"select " + id + L" dropdown", select.text.color, select.dropdownSurface, kBody);
-    check.text(L"select " + id + L" option hot", select.text.color, select.optionHotSurface, kBody,
+    check.text(L"select " + id + L" option hot", select.text.color, select.optionSurface.hot, kBody,
                &select.dropdownSurface);
     check.text(L"select " + id + L" option selected", select.text.color,
-               select.optionSelectedSurface, kBody, &select.dropdownSurface);
+               select.optionSurface.active, kBody, &select.dropdownSurface);
   }
   for (const auto& [id, list] : sheet.listBoxes.all()) {
     check.text(L"list " + id, list.text.color, list.surface, kBody);
-    check.text(L"list " + id + L" selected", list.selectedText.color, list.selectedRow, kBody,
-               &list.surface);
+    check.text(L"list " + id + L" selected", list.selectedText.color, list.selectedRow.normal,
+               kBody, &list.surface);
   }
   for (const auto& [id, table] : sheet.tableLists.all()) {
     check.text(L"table " + id + L" header", table.headerText.color, table.header, kBody,
@@ -117,9 +117,9 @@ std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
                &table.surface);
   }
   for (const auto& [id, input] : sheet.textInputs.all()) {
-    check.text(L"input " + id, input.text.color, input.surface, kBody);
-    check.text(L"input " + id + L" focused", input.text.color, input.focusedSurface, kBody);
-    check.text(L"input " + id + L" placeholder", input.placeholderText.color, input.surface,
+    check.text(L"input " + id, input.text.color, input.surface.normal, kBody);
+    check.text(L"input " + id + L" focused", input.text.color, input.surface.active, kBody);
+    check.text(L"input " + id + L" placeholder", input.placeholderText.color, input.surface.normal,
                kSecondary);
   }
   for (const auto& [id, text] : sheet.selectableTexts.all())
@@ -140,13 +140,13 @@ std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
   for (const auto& [id, menu] : sheet.menuBars.all()) {
     check.text(L"menu " + id, menu.itemText.color, menu.surface, kBody);
     check.text(L"menu " + id + L" popup", menu.itemText.color, menu.popupSurface, kBody);
-    check.text(L"menu " + id + L" hot item", menu.itemText.color, menu.popupItemHotSurface, kBody,
+    check.text(L"menu " + id + L" hot item", menu.itemText.color, menu.popupItemSurface.hot, kBody,
                &menu.popupSurface);
   }
   for (const auto& [id, tabs] : sheet.tabStrips.all())
     Button(check, L"tab " + id, tabs.itemButton);
   for (const auto& [id, date] : sheet.dateInputs.all())
-    check.text(L"date input " + id, date.text.color, date.surface, kBody);
+    check.text(L"date input " + id, date.text.color, date.surface.normal, kBody);
   return check.problems_;
 }
 

@@ -69,9 +69,9 @@ Image DrawSkinGallery(const SkinDefinition& skin) {
 
   const CheckBoxStyle& check = sheet.checkBoxes.get(L"stayhold-option");
   const int box = std::clamp(check.boxSize, 12, 18);
-  g.surface(Rect{8, 125, box, box}, check.boxChecked);
+  g.surface(Rect{8, 125, box, box}, check.checked.normal);
   g.text("ON", Rect{8 + box + 6, 122, 30, 24}, check.text, check.text.color);
-  g.surface(Rect{56, 125, box, box}, check.boxUnchecked);
+  g.surface(Rect{56, 125, box, box}, check.unchecked.normal);
   g.text("OFF", Rect{56 + box + 6, 122, 30, 24}, check.text, check.text.color);
 
   const StatusChipStyle& chip = sheet.statusChips.get(L"stayhold-active");
@@ -90,7 +90,7 @@ Image DrawSkinGallery(const SkinDefinition& skin) {
 
   const TextInputStyle& input = sheet.textInputs.get(L"stayhold-input");
   const Rect inputRect{8, 156, 148, 24};
-  g.surface(inputRect, input.surface);
+  g.surface(inputRect, input.surface.normal);
   g.text("WORK WEEK", Rect{inputRect.x + 8, inputRect.y, 130, inputRect.height}, input.text,
          input.text.color);
 

@@ -16,14 +16,8 @@ constexpr Color kCheck = rgbColor(0, 200, 0);
 
 CheckBoxStyle FlatStyle() {
   CheckBoxStyle style;
-  for (SurfaceStyle* s : {&style.boxUnchecked, &style.boxUncheckedHot, &style.boxUncheckedPressed,
-                          &style.boxUncheckedDisabled}) {
-    *s = FlatSurface(kBox);
-  }
-  for (SurfaceStyle* s : {&style.boxChecked, &style.boxCheckedHot, &style.boxCheckedPressed,
-                          &style.boxCheckedDisabled}) {
-    *s = FlatSurface(kBoxChecked);
-  }
+  style.unchecked.each([](SurfaceStyle& s) { s = FlatSurface(kBox); });
+  style.checked.each([](SurfaceStyle& s) { s = FlatSurface(kBoxChecked); });
   style.checkColor = kCheck;
   style.text = PlainText(rgbColor(250, 250, 250));
   return style;

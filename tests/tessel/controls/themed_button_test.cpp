@@ -186,8 +186,7 @@ TEST(ThemedButton, ShapeHitFollowsTheOutlineOnlyWhenAskedFor) {
   EXPECT_TRUE(button.containsPoint(Point{30, 12}));
 
   // A hit shape of its own rules clicks, whatever the surface's outline.
-  style.hasHitShape = true;
-  style.hitShape = ShapeKind::Diamond;
+  style.hitShape = ShapeStyle{ShapeKind::Diamond, true};
   style.surface.each([](SurfaceStyle& s) { s.shape = ShapeKind::Rectangle; });
   button.setStyle(style);
   EXPECT_FALSE(button.containsPoint(Point{2, 2}));

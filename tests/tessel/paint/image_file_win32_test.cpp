@@ -16,7 +16,7 @@
 
 #include "tessel/paint/chrome_glyphs.h"
 #include "tessel/paint/image_file.h"
-#include "tessel/skin/control_style_parsers.h"
+#include "tessel/skin/style_record.h"
 #include "tessel/skin/json_value.h"
 #include "tessel/skin/property_table.h"
 #include "tessel/skin/surface_parser.h"

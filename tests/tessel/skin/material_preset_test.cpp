@@ -5,18 +5,19 @@
 #include <cstdlib>
 #include <cwchar>
 #include <cwctype>
-#include <fstream>
 #include <ostream>
-#include <sstream>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "tests/support/source_files.h"
+#include "tessel/skin/property_table.h"
+#include "tessel/skin/skin_definition.h"
 
 namespace {
 
 using tessel::applyFinish;
+using tessel::applyMaterial;
 using tessel::applyMaterialPreset;
 using tessel::Color;
 using tessel::findMaterialPreset;
@@ -24,158 +25,133 @@ using tessel::Finish;
 using tessel::MaterialKind;
 using tessel::MaterialPreset;
 using tessel::materialPresets;
+using tessel::MaterialProfile;
 using tessel::parseFinish;
 using tessel::parseMaterialKind;
 using tessel::rgbColor;
 using tessel::SurfaceStyle;
 
-// One row of the preset table as the fixture writes it, kept in text where the code has enums.
-struct FixtureRow {
-  std::string name;
-  std::string kind;
-  std::string tint;
-  int strength, highlight, reflection, depth, roughness, specular, occlusion, edgeWear, texture;
-  int scale, angle, lightAngle;
-  std::string finish;
+std::string Narrow(const std::wstring& text) {
+  return std::string(text.begin(), text.end());
+}
+
+std::wstring Upper(std::wstring text) {
+  for (wchar_t& c : text)
+    c = static_cast<wchar_t>(std::towupper(c));
+  return text;
+}
+
+// The spellings a skin may use for one word: as written, shouted, split by "-", "_" and blanks.
+std::vector<std::wstring> Spellings(const std::wstring& word) {
+  std::wstring split;
+  for (size_t i = 0; i < word.size(); ++i)
+    split += (i == 0 ? L"" : (i % 3 == 0 ? L"-" : (i % 3 == 1 ? L"_" : L" "))) + word.substr(i, 1);
+  return {word, Upper(word), L"  " + split + L"\t"};
+}
+
+// The nine values a finish may move.
+constexpr uint8_t SurfaceStyle::*kMovable[] = {
+    &SurfaceStyle::roughness,        &SurfaceStyle::specular,
+    &SurfaceStyle::highlightOpacity, &SurfaceStyle::reflectionOpacity,
+    &SurfaceStyle::textureOpacity,   &SurfaceStyle::grainOpacity,
+    &SurfaceStyle::materialDepth,    &SurfaceStyle::ambientOcclusion,
+    &SurfaceStyle::edgeWear,
 };
 
-std::string Trim(const std::string& text) {
-  const size_t first = text.find_first_not_of(" \t\r");
-  if (first == std::string::npos) return {};
-  const size_t last = text.find_last_not_of(" \t\r");
-  return text.substr(first, last - first + 1);
+// Every value of the preset a surface receives, for comparing two presets.
+std::vector<int64_t> ValuesOf(const MaterialPreset& p) {
+  return {static_cast<int64_t>(p.kind),
+          p.tint,
+          p.backlight,
+          p.strength,
+          p.highlightOpacity,
+          p.reflectionOpacity,
+          p.grainOpacity,
+          p.depth,
+          p.roughness,
+          p.specular,
+          p.ambientOcclusion,
+          p.edgeWear,
+          p.textureOpacity,
+          p.lightElevation,
+          p.scale,
+          p.angle,
+          p.lightAngle,
+          p.finish};
 }
 
-std::vector<FixtureRow> LoadFixture() {
-  std::ifstream file(SourceFile("tests/tessel/skin/fixtures/material_presets.txt"));
-  EXPECT_TRUE(file.is_open());
-  std::vector<FixtureRow> rows;
-  std::string line;
-  while (std::getline(file, line)) {
-    line = Trim(line);
-    if (line.empty() || line[0] == '#') continue;
-    std::vector<std::string> cells;
-    std::stringstream stream(line);
-    std::string cell;
-    while (std::getline(stream, cell, '|'))
-      cells.push_back(Trim(cell));
-    // A markdown row starts with "|", so the first cell is empty.
-    if (cells.size() != 17) {
-      ADD_FAILURE() << "malformed fixture line: " << line;
-      continue;
+uint32_t Channel(Color c, int shift) {
+  return (c >> shift) & 0xFF;
+}
+
+TEST(MaterialPresetTable, EveryPresetIsAMaterialUnderItsOwnNormalizedName) {
+  std::set<std::wstring> names;
+  for (const MaterialPreset& preset : materialPresets()) {
+    SCOPED_TRACE(Narrow(preset.name));
+    EXPECT_FALSE(preset.name.empty());
+    EXPECT_EQ(tessel::normalizeKey(preset.name), preset.name);
+    EXPECT_TRUE(names.insert(preset.name).second) << "the name is taken twice";
+    EXPECT_NE(preset.kind, MaterialKind::None);
+    EXPECT_GT(preset.strength, 0);
+    EXPECT_GE(preset.finish, Finish::Default);
+    EXPECT_LE(preset.finish, Finish::Wet);
+    EXPECT_EQ(preset.grainOpacity, tessel::defaultGrainOpacity(preset.kind));
+  }
+  EXPECT_GT(names.size(), 50u);
+}
+
+TEST(MaterialPresetTable, TheBacklightIsTheTintWarmedTowardAmber) {
+  const Color warm = rgbColor(0xFF, 0xB4, 0x5A);
+  for (const MaterialPreset& preset : materialPresets()) {
+    SCOPED_TRACE(Narrow(preset.name));
+    for (int shift : {0, 8, 16}) {
+      const int tint = static_cast<int>(Channel(preset.tint, shift));
+      const int light = static_cast<int>(Channel(preset.backlight, shift));
+      const int toward = static_cast<int>(Channel(warm, shift));
+      EXPECT_LE(std::abs(light - toward), std::abs(tint - toward)) << "channel " << shift;
+      EXPECT_LE(std::abs(light - tint), (std::abs(toward - tint) + 4) / 5) << "channel " << shift;
     }
-    auto number = [&](size_t i) { return std::atoi(cells[i].c_str()); };
-    rows.push_back(FixtureRow{cells[1], cells[2], cells[3], number(4), number(5), number(6),
-                              number(7), number(8), number(9), number(10), number(11), number(12),
-                              number(13), number(14), number(15), cells[16]});
   }
-  return rows;
 }
 
-std::wstring Wide(const std::string& ascii) {
-  return std::wstring(ascii.begin(), ascii.end());
-}
-
-MaterialKind KindNamed(const std::string& name) {
-  static const std::pair<const char*, MaterialKind> kKinds[] = {
-      {"Granite", MaterialKind::Granite},
-      {"Marble", MaterialKind::Marble},
-      {"Gemstone", MaterialKind::Gemstone},
-      {"Metal", MaterialKind::Metal},
-  };
-  for (const auto& [text, kind] : kKinds) {
-    if (name == text) return kind;
+// The seed spells the first four letters of a name; an alias borrows its original's, so both
+// paint the same grain.
+TEST(MaterialPresetTable, SeedsSpellTheNameOfAPresetWithTheSameValues) {
+  for (const MaterialPreset& preset : materialPresets()) {
+    SCOPED_TRACE(Narrow(preset.name));
+    std::wstring prefix;
+    for (int shift : {24, 16, 8, 0})
+      prefix += static_cast<wchar_t>((preset.noiseSeed >> shift) & 0xFF);
+    const MaterialPreset* origin = nullptr;
+    for (const MaterialPreset& other : materialPresets()) {
+      if (other.name.compare(0, 4, prefix) == 0 && ValuesOf(other) == ValuesOf(preset))
+        origin = &other;
+    }
+    EXPECT_NE(origin, nullptr) << "seed " << std::hex << preset.noiseSeed;
   }
-  ADD_FAILURE() << "unexpected kind in fixture: " << name;
-  return MaterialKind::None;
 }
 
-// The grain the shader implies for the kinds the table uses.
-int DefaultGrainOf(const std::string& kind) {
-  if (kind == "Granite") return 18;
-  if (kind == "Marble") return 9;
-  if (kind == "Gemstone") return 5;
-  if (kind == "Metal") return 12;
-  ADD_FAILURE() << "no default grain for " << kind;
-  return -1;
-}
-
-int32_t FinishNamed(const std::string& name) {
-  static const char* const kNames[] = {"default", "polished", "brushed", "satin",
-                                       "matte",   "rough",    "cracked", "hammered",
-                                       "etched",  "frosted",  "wet"};
-  for (int32_t i = 0; i < 11; ++i) {
-    if (name == kNames[i]) return i;
-  }
-  ADD_FAILURE() << "unexpected finish in fixture: " << name;
-  return -1;
-}
-
-Color ParseHex(const std::string& text) {
-  EXPECT_EQ(text.size(), 7u);
-  EXPECT_EQ(text[0], '#');
-  const unsigned long value = std::strtoul(text.c_str() + 1, nullptr, 16);
-  return rgbColor((value >> 16) & 0xFF, (value >> 8) & 0xFF, value & 0xFF);
-}
-
-// The tint warmed toward #FFB45A by 0.18, per channel, truncated.
-Color WarmBacklight(Color tint) {
-  auto channel = [](uint32_t from, uint32_t to) {
-    return static_cast<uint32_t>(from + (static_cast<double>(to) - from) * 0.18);
-  };
-  return rgbColor(channel(tint & 0xFF, 0xFF), channel((tint >> 8) & 0xFF, 0xB4),
-                  channel((tint >> 16) & 0xFF, 0x5A));
-}
-
-uint32_t SeedOf(std::string name) {
-  if (name == "zula") name = "granite";
-  if (name == "mramor") name = "marble";
-  if (name == "aluminum") name = "aluminium";
-  return (static_cast<uint32_t>(name[0]) << 24) | (static_cast<uint32_t>(name[1]) << 16) |
-         (static_cast<uint32_t>(name[2]) << 8) | static_cast<uint32_t>(name[3]);
-}
-
-TEST(MaterialPresetTable, MatchesTheFixtureRowByRowInOrder) {
-  const std::vector<FixtureRow> fixture = LoadFixture();
-  const std::vector<MaterialPreset>& presets = materialPresets();
-  ASSERT_EQ(fixture.size(), 62u);
-  ASSERT_EQ(presets.size(), fixture.size());
-  for (size_t i = 0; i < fixture.size(); ++i) {
-    const FixtureRow& row = fixture[i];
-    const MaterialPreset& preset = presets[i];
-    SCOPED_TRACE("row " + std::to_string(i) + " " + row.name);
-    EXPECT_EQ(preset.name, Wide(row.name));
-    EXPECT_EQ(preset.kind, KindNamed(row.kind));
-    EXPECT_EQ(preset.tint, ParseHex(row.tint));
-    EXPECT_EQ(preset.backlight, WarmBacklight(ParseHex(row.tint)));
-    EXPECT_EQ(preset.strength, row.strength);
-    EXPECT_EQ(preset.highlightOpacity, row.highlight);
-    EXPECT_EQ(preset.reflectionOpacity, row.reflection);
-    EXPECT_EQ(preset.grainOpacity, DefaultGrainOf(row.kind));
-    EXPECT_EQ(preset.depth, row.depth);
-    EXPECT_EQ(preset.roughness, row.roughness);
-    EXPECT_EQ(preset.specular, row.specular);
-    EXPECT_EQ(preset.ambientOcclusion, row.occlusion);
-    EXPECT_EQ(preset.edgeWear, row.edgeWear);
-    EXPECT_EQ(preset.textureOpacity, row.texture);
-    EXPECT_EQ(preset.lightElevation, 62);
-    EXPECT_EQ(preset.scale, row.scale);
-    EXPECT_EQ(preset.angle, row.angle);
-    EXPECT_EQ(preset.lightAngle, row.lightAngle);
-    EXPECT_EQ(preset.noiseSeed, SeedOf(row.name));
-    EXPECT_EQ(preset.finish, FinishNamed(row.finish));
+TEST(MaterialPresetTable, AliasesRepeatTheirOriginal) {
+  const std::pair<const wchar_t*, const wchar_t*> kAliases[] = {
+      {L"zula", L"granite"}, {L"mramor", L"marble"}, {L"aluminum", L"aluminium"}};
+  for (const auto& [alias, original] : kAliases) {
+    SCOPED_TRACE(Narrow(alias));
+    const MaterialPreset* a = findMaterialPreset(alias);
+    const MaterialPreset* o = findMaterialPreset(original);
+    ASSERT_NE(a, nullptr);
+    ASSERT_NE(o, nullptr);
+    EXPECT_NE(a, o);
+    EXPECT_EQ(ValuesOf(*a), ValuesOf(*o));
+    EXPECT_EQ(a->noiseSeed, o->noiseSeed);
   }
 }
 
 TEST(MaterialPresetTable, EveryNameFindsItsOwnRow) {
   const std::vector<MaterialPreset>& presets = materialPresets();
   for (const MaterialPreset& preset : presets) {
-    SCOPED_TRACE(std::string(preset.name.begin(), preset.name.end()));
+    SCOPED_TRACE(Narrow(preset.name));
     EXPECT_EQ(findMaterialPreset(preset.name), &preset);
-    std::wstring shouted = preset.name;
-    for (wchar_t& c : shouted)
-      c = static_cast<wchar_t>(towupper(c));
-    EXPECT_EQ(findMaterialPreset(shouted), &preset);
+    EXPECT_EQ(findMaterialPreset(Upper(preset.name)), &preset);
   }
 }
 
@@ -192,15 +168,48 @@ TEST(MaterialPresetTable, DerivedValuesOfSampleRows) {
       {L"mramor", rgbColor(0xDD, 0xCA, 0xB0), 0x6D617262u},
       {L"chrome", rgbColor(0xDA, 0xD8, 0xCE), 0x6368726Fu},
       {L"onyx", rgbColor(0x43, 0x34, 0x25), 0x6F6E7978u},
-      {L"aluminum", WarmBacklight(rgbColor(0xB8, 0xBC, 0xBE)), 0x616C756Du},
+      {L"aluminum", rgbColor(0xC4, 0xBA, 0xAC), 0x616C756Du},
   };
   for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.name, c.name + wcslen(c.name)));
+    SCOPED_TRACE(Narrow(c.name));
     const MaterialPreset* preset = findMaterialPreset(c.name);
     ASSERT_NE(preset, nullptr);
     EXPECT_EQ(preset->backlight, c.backlight);
     EXPECT_EQ(preset->noiseSeed, c.seed);
   }
+}
+
+// What a preset looks like, by the colour of its tint and the shine of its finish.
+TEST(MaterialPresetTable, PresetsLookLikeTheirNames) {
+  struct Tint {
+    const wchar_t* name;
+    int dominant;  // the shift of the strongest channel: 0 red, 8 green, 16 blue
+  };
+  const Tint kTints[] = {{L"ruby", 0},   {L"emerald", 8},   {L"sapphire", 16},
+                         {L"copper", 0}, {L"malachite", 8}, {L"lapislazuli", 16}};
+  for (const Tint& c : kTints) {
+    SCOPED_TRACE(Narrow(c.name));
+    const MaterialPreset* preset = findMaterialPreset(c.name);
+    ASSERT_NE(preset, nullptr);
+    for (int shift : {0, 8, 16}) {
+      if (shift == c.dominant) continue;
+      EXPECT_GT(Channel(preset->tint, c.dominant), Channel(preset->tint, shift));
+    }
+  }
+  // Polished chrome and wet onyx shine; raw basalt and limestone don't.
+  const auto looks = [](const wchar_t* name) {
+    SurfaceStyle surface;
+    applyMaterialPreset(surface, *findMaterialPreset(name));
+    return surface;
+  };
+  for (const wchar_t* shiny : {L"chrome", L"onyx"}) {
+    for (const wchar_t* dull : {L"basalt", L"limestone"}) {
+      SCOPED_TRACE(Narrow(shiny) + " against " + Narrow(dull));
+      EXPECT_GT(looks(shiny).specular, looks(dull).specular);
+      EXPECT_LT(looks(shiny).roughness, looks(dull).roughness);
+    }
+  }
+  EXPECT_EQ(looks(L"carbonsteel").material, MaterialKind::BrushedMetal);  // a brushed metal
 }
 
 TEST(MaterialPresetLookup, NormalizesTheWordThenComparesExactly) {
@@ -226,7 +235,7 @@ TEST(MaterialPresetLookup, NormalizesTheWordThenComparesExactly) {
       {L"", nullptr},
   };
   for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.word, c.word + wcslen(c.word)));
+    SCOPED_TRACE(Narrow(c.word));
     const MaterialPreset* preset = findMaterialPreset(c.word);
     if (c.found == nullptr) {
       EXPECT_EQ(preset, nullptr);
@@ -237,84 +246,46 @@ TEST(MaterialPresetLookup, NormalizesTheWordThenComparesExactly) {
   }
 }
 
-TEST(MaterialKindWords, EveryWordMapsToItsKind) {
+TEST(MaterialKindWords, WordsReachEveryKindInAnySpelling) {
   struct Case {
     const wchar_t* word;
     MaterialKind kind;
   };
   const Case kCases[] = {
-      {L"none", MaterialKind::None},
       {L"matte", MaterialKind::None},
-      {L"flat", MaterialKind::None},
       {L"glass", MaterialKind::Glass},
-      {L"frostedglass", MaterialKind::FrostedGlass},
       {L"frosted", MaterialKind::FrostedGlass},
-      {L"blurredglass", MaterialKind::FrostedGlass},
-      {L"gloss", MaterialKind::Gloss},
       {L"glossy", MaterialKind::Gloss},
       {L"metal", MaterialKind::Metal},
-      {L"brushedmetal", MaterialKind::BrushedMetal},
       {L"brushed", MaterialKind::BrushedMetal},
       {L"plastic", MaterialKind::Plastic},
       {L"rubber", MaterialKind::Rubber},
       {L"paper", MaterialKind::Paper},
       {L"carbonfiber", MaterialKind::CarbonFiber},
-      {L"carbon", MaterialKind::CarbonFiber},
-      {L"obsidianglass", MaterialKind::ObsidianGlass},
       {L"blackglass", MaterialKind::ObsidianGlass},
-      {L"bottleglass", MaterialKind::ObsidianGlass},
-      {L"bottleblack", MaterialKind::ObsidianGlass},
-      {L"blackgloss", MaterialKind::ObsidianGlass},
       {L"bloodgloss", MaterialKind::CarmineGloss},
-      {L"bloodglass", MaterialKind::CarmineGloss},
-      {L"carmineglass", MaterialKind::CarmineGloss},
-      {L"carminegloss", MaterialKind::CarmineGloss},
-      {L"amberglass", MaterialKind::AmberGlass},
       {L"amberresin", MaterialKind::AmberGlass},
-      {L"resinglass", MaterialKind::AmberGlass},
-      {L"resin", MaterialKind::AmberGlass},
-      {L"honeyglass", MaterialKind::AmberGlass},
-      {L"luminousglass", MaterialKind::LuminousGlass},
-      {L"softglass", MaterialKind::LuminousGlass},
       {L"neonglass", MaterialKind::LuminousGlass},
-      {L"neuronglass", MaterialKind::LuminousGlass},
-      {L"lightglass", MaterialKind::LuminousGlass},
-      {L"glowglass", MaterialKind::LuminousGlass},
-      {L"layeredglass", MaterialKind::LayeredGlass},
-      {L"layered", MaterialKind::LayeredGlass},
-      {L"photorealglass", MaterialKind::LayeredGlass},
-      {L"realglass", MaterialKind::LayeredGlass},
       {L"deepglass", MaterialKind::LayeredGlass},
-      {L"gemstone", MaterialKind::Gemstone},
-      {L"gemglass", MaterialKind::Gemstone},
       {L"jewel", MaterialKind::Gemstone},
-      {L"crystal", MaterialKind::Gemstone},
-      {L"facetedglass", MaterialKind::Gemstone},
-      {L"faceted", MaterialKind::Gemstone},
-      {L"obsidianrelief", MaterialKind::ObsidianRelief},
       {L"obsidian3d", MaterialKind::ObsidianRelief},
-      {L"carvedobsidian", MaterialKind::ObsidianRelief},
-      {L"volcanicglass", MaterialKind::ObsidianRelief},
-      {L"blackstone", MaterialKind::ObsidianRelief},
-      {L"stonegranite", MaterialKind::Granite},
-      {L"granite", MaterialKind::Granite},
       {L"zula", MaterialKind::Granite},
       {L"stonemarble", MaterialKind::Marble},
-      {L"marble", MaterialKind::Marble},
-      {L"mramor", MaterialKind::Marble},
-      // Spellings a skin may use for the same words.
-      {L"Frosted Glass", MaterialKind::FrostedGlass},
-      {L"BLACK_GLASS", MaterialKind::ObsidianGlass},
-      {L"Obsidian-3D", MaterialKind::ObsidianRelief},
-      {L" carbon-fiber ", MaterialKind::CarbonFiber},
   };
+  std::set<MaterialKind> reached;
   for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.word, c.word + wcslen(c.word)));
-    // Start from a kind no case expects unless it names it, so a no-op cannot pass.
-    MaterialKind kind = c.kind == MaterialKind::Rubber ? MaterialKind::Paper : MaterialKind::Rubber;
-    EXPECT_TRUE(parseMaterialKind(c.word, kind));
-    EXPECT_EQ(kind, c.kind);
+    for (const std::wstring& word : Spellings(c.word)) {
+      SCOPED_TRACE(Narrow(word));
+      // Start from a kind no case expects unless it names it, so a no-op cannot pass.
+      MaterialKind kind =
+          c.kind == MaterialKind::Rubber ? MaterialKind::Paper : MaterialKind::Rubber;
+      EXPECT_TRUE(parseMaterialKind(word, kind));
+      EXPECT_EQ(kind, c.kind);
+    }
+    reached.insert(c.kind);
   }
+  for (int32_t number = 0; number <= static_cast<int32_t>(MaterialKind::Marble); ++number)
+    EXPECT_EQ(reached.count(static_cast<MaterialKind>(number)), 1u) << "no word for " << number;
 }
 
 TEST(MaterialKindWords, NonWordsLeaveTheKind) {
@@ -324,46 +295,45 @@ TEST(MaterialKindWords, NonWordsLeaveTheKind) {
       L"velvet",    L"glasses",   L"",       L"stone.granite",
   };
   for (const wchar_t* word : kWords) {
-    SCOPED_TRACE(std::string(word, word + wcslen(word)));
+    SCOPED_TRACE(Narrow(word));
     MaterialKind kind = MaterialKind::Rubber;
     EXPECT_FALSE(parseMaterialKind(word, kind));
     EXPECT_EQ(kind, MaterialKind::Rubber);
   }
 }
 
-TEST(FinishWords, EveryWordMapsToItsNumber) {
+TEST(FinishWords, WordsReachEveryFinishInAnySpelling) {
   struct Case {
     const wchar_t* word;
     int32_t finish;
   };
   const Case kCases[] = {
-      {L"default", 0},        {L"auto", 0},          {L"natural", 0},
-      {L"polished", 1},       {L"mirror", 1},        {L"highpolish", 1},
-      {L"brushed", 2},        {L"linearbrushed", 2}, {L"hairline", 2},
-      {L"satin", 3},          {L"softsatin", 3},     {L"semimatte", 3},
-      {L"matte", 4},          {L"flat", 4},          {L"deadmatte", 4},
-      {L"rough", 5},          {L"raw", 5},           {L"naturalrough", 5},
-      {L"cracked", 6},        {L"cracred", 6},       {L"fractured", 6},
-      {L"crazed", 6},         {L"hammered", 7},      {L"beaten", 7},
-      {L"peened", 7},         {L"etched", 8},        {L"engraved", 8},
-      {L"engravedlines", 8},  {L"frosted", 9},       {L"sandblasted", 9},
-      {L"milkglass", 9},      {L"wet", 10},          {L"wetgloss", 10},
-      {L"glossywet", 10},     {L"lacquered", 10},    {L"High-Polish", 1},
-      {L"Linear Brushed", 2}, {L"semi_matte", 3},    {L" WET ", 10},
+      {L"natural", Finish::Default},  {L"mirror", Finish::Polished},
+      {L"hairline", Finish::Brushed}, {L"semimatte", Finish::Satin},
+      {L"flat", Finish::Matte},       {L"raw", Finish::Rough},
+      {L"cracred", Finish::Cracked},  {L"peened", Finish::Hammered},
+      {L"engraved", Finish::Etched},  {L"milkglass", Finish::Frosted},
+      {L"lacquered", Finish::Wet},
   };
+  std::set<int32_t> reached;
   for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.word, c.word + wcslen(c.word)));
-    int32_t finish = c.finish == 7 ? 8 : 7;
-    EXPECT_TRUE(parseFinish(c.word, finish));
-    EXPECT_EQ(finish, c.finish);
+    for (const std::wstring& word : Spellings(c.word)) {
+      SCOPED_TRACE(Narrow(word));
+      int32_t finish = c.finish == Finish::Hammered ? Finish::Etched : Finish::Hammered;
+      EXPECT_TRUE(parseFinish(word, finish));
+      EXPECT_EQ(finish, c.finish);
+    }
+    reached.insert(c.finish);
   }
+  for (int32_t finish = Finish::Default; finish <= Finish::Wet; ++finish)
+    EXPECT_EQ(reached.count(finish), 1u) << "no word for finish " << finish;
 }
 
 TEST(FinishWords, NonWordsLeaveTheFinish) {
   const wchar_t* const kWords[] = {L"none",   L"polish", L"glossy",       L"granite",
                                    L"chrome", L"",       L"cracked glass"};
   for (const wchar_t* word : kWords) {
-    SCOPED_TRACE(std::string(word, word + wcslen(word)));
+    SCOPED_TRACE(Narrow(word));
     int32_t finish = Finish::Hammered;
     EXPECT_FALSE(parseFinish(word, finish));
     EXPECT_EQ(finish, Finish::Hammered);
@@ -383,7 +353,7 @@ TEST(FinishWords, SomeWordsAreBothKindAndFinishButNoPreset) {
       {L"flat", MaterialKind::None, Finish::Matte},
   };
   for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.word, c.word + wcslen(c.word)));
+    SCOPED_TRACE(Narrow(c.word));
     EXPECT_EQ(findMaterialPreset(c.word), nullptr);
     MaterialKind kind = MaterialKind::Rubber;
     EXPECT_TRUE(parseMaterialKind(c.word, kind));
@@ -394,7 +364,7 @@ TEST(FinishWords, SomeWordsAreBothKindAndFinishButNoPreset) {
   }
 }
 
-// The nine values a finish may move, in one comparable record.
+// The nine movable values, in one comparable record.
 struct Moved {
   int roughness, specular, highlight, reflection, texture, grain, depth, occlusion, edgeWear;
   bool operator==(const Moved&) const = default;
@@ -414,62 +384,102 @@ Moved MovedOf(const SurfaceStyle& s) {
 
 SurfaceStyle AllMovedAt(uint8_t value) {
   SurfaceStyle s;
-  s.roughness = s.specular = s.highlightOpacity = s.reflectionOpacity = value;
-  s.textureOpacity = s.grainOpacity = s.materialDepth = s.ambientOcclusion = s.edgeWear = value;
+  for (uint8_t SurfaceStyle::*field : kMovable)
+    s.*field = value;
   return s;
 }
 
-TEST(ApplyFinish, CapsOnlyRaiseOrLowerTowardTheFinish) {
-  struct Case {
-    int32_t finish;
-    Moved fromZero;  // the at-least caps show up
-    Moved fromFull;  // the at-most caps show up
-  };
-  const Moved kZero{0, 0, 0, 0, 0, 0, 0, 0, 0};
-  const Moved kFull{255, 255, 255, 255, 255, 255, 255, 255, 255};
-  const Case kCases[] = {
-      {Finish::Default, kZero, kFull},
-      {Finish::Polished,
-       {0, 156, 84, 66, 0, 0, 0, 0, 0},
-       {62, 255, 255, 255, 255, 255, 255, 255, 255}},
-      {Finish::Brushed, {104, 118, 0, 0, 72, 8, 0, 0, 0}, kFull},
-      {Finish::Satin, {112, 96, 0, 0, 56, 0, 0, 0, 0}, kFull},
-      {Finish::Matte, {168, 0, 0, 0, 46, 0, 0, 0, 0}, {255, 74, 255, 34, 255, 255, 255, 255, 255}},
-      {Finish::Rough,
-       {188, 0, 0, 0, 86, 0, 58, 88, 0},
-       {255, 58, 255, 255, 255, 255, 255, 255, 255}},
-      {Finish::Cracked, {142, 0, 0, 0, 108, 0, 70, 104, 42}, kFull},
-      {Finish::Hammered, {118, 118, 0, 0, 92, 0, 72, 0, 0}, kFull},
-      {Finish::Etched, {132, 0, 0, 0, 92, 0, 54, 0, 50}, kFull},
-      {Finish::Frosted,
-       {184, 0, 0, 0, 72, 16, 0, 0, 0},
-       {255, 88, 255, 255, 255, 255, 255, 255, 255}},
-      {Finish::Wet, {0, 176, 92, 82, 0, 0, 0, 0, 0}, {44, 255, 255, 255, 255, 255, 255, 255, 255}},
-      {11, kZero, kFull},  // an unknown number is stored but moves nothing
-      {-1, kZero, kFull},
-  };
-  for (const Case& c : kCases) {
-    SCOPED_TRACE("finish " + std::to_string(c.finish));
-    const std::pair<uint8_t, Moved> kStarts[] = {{0, c.fromZero}, {255, c.fromFull}};
-    for (const auto& [start, expected] : kStarts) {
-      SurfaceStyle surface = AllMovedAt(start);
-      surface.material = MaterialKind::Granite;
-      surface.finish = 99;
-      applyFinish(surface, c.finish);
-      EXPECT_EQ(MovedOf(surface), expected) << "from " << int{start};
-      EXPECT_EQ(surface.finish, c.finish);
-      // Values outside the finish's reach stay put.
-      const SurfaceStyle plain = AllMovedAt(start);
-      EXPECT_EQ(surface.material, MaterialKind::Granite);
-      EXPECT_EQ(surface.materialStrength, plain.materialStrength);
-      EXPECT_EQ(surface.backlightOpacity, plain.backlightOpacity);
-      EXPECT_EQ(surface.innerGlow, plain.innerGlow);
-      EXPECT_EQ(surface.rimLight, plain.rimLight);
-      EXPECT_EQ(surface.materialLightElevation, plain.materialLightElevation);
-      EXPECT_EQ(surface.noiseSeed, plain.noiseSeed);
-      EXPECT_EQ(surface.opacity, plain.opacity);
+// For every finish and every movable value: the result grows with the start, values between
+// the lowest and highest result stay as they were, and a second application changes nothing.
+TEST(ApplyFinish, EachFinishOnlyClampsEachValue) {
+  for (int32_t finish = Finish::Default - 1; finish <= Finish::Wet + 1; ++finish) {
+    SCOPED_TRACE("finish " + std::to_string(finish));
+    for (uint8_t SurfaceStyle::*field : kMovable) {
+      SurfaceStyle low = AllMovedAt(0);
+      SurfaceStyle high = AllMovedAt(255);
+      applyFinish(low, finish);
+      applyFinish(high, finish);
+      const int floor = low.*field;
+      const int ceiling = high.*field;
+      ASSERT_LE(floor, ceiling);
+      for (int start = 0; start <= 255; ++start) {
+        SurfaceStyle surface;
+        surface.*field = static_cast<uint8_t>(start);
+        applyFinish(surface, finish);
+        const int expected = start < floor ? floor : start > ceiling ? ceiling : start;
+        ASSERT_EQ(surface.*field, expected) << "from " << start;
+        SurfaceStyle again = surface;
+        applyFinish(again, finish);
+        ASSERT_EQ(MovedOf(again), MovedOf(surface));
+      }
     }
   }
+}
+
+TEST(ApplyFinish, DefaultAndUnknownNumbersMoveNothingButAreStored) {
+  for (int32_t finish : {Finish::Default, 11, -1}) {
+    for (uint8_t start : {0, 77, 255}) {
+      SurfaceStyle surface = AllMovedAt(start);
+      surface.material = MaterialKind::Metal;
+      applyFinish(surface, finish);
+      EXPECT_EQ(MovedOf(surface), MovedOf(AllMovedAt(start))) << finish;
+      EXPECT_EQ(surface.finish, finish);
+      EXPECT_EQ(surface.material, MaterialKind::Metal);
+    }
+  }
+}
+
+TEST(ApplyFinish, ValuesOutsideTheFinishStayPut) {
+  constexpr uint8_t SurfaceStyle::*kOthers[] = {&SurfaceStyle::materialStrength,
+                                                &SurfaceStyle::backlightOpacity,
+                                                &SurfaceStyle::innerGlow,
+                                                &SurfaceStyle::rimLight,
+                                                &SurfaceStyle::materialLightElevation,
+                                                &SurfaceStyle::opacity};
+  for (int32_t finish = Finish::Default; finish <= Finish::Wet; ++finish) {
+    SCOPED_TRACE("finish " + std::to_string(finish));
+    SurfaceStyle surface = AllMovedAt(128);
+    surface.material = MaterialKind::Granite;
+    surface.noiseSeed = 13;
+    uint8_t odd = 3;
+    for (uint8_t SurfaceStyle::*field : kOthers)
+      surface.*field = odd += 2;
+    const SurfaceStyle before = surface;
+    applyFinish(surface, finish);
+    EXPECT_EQ(surface.material, MaterialKind::Granite);
+    EXPECT_EQ(surface.noiseSeed, 13u);
+    for (uint8_t SurfaceStyle::*field : kOthers)
+      EXPECT_EQ(surface.*field, before.*field);
+  }
+}
+
+// From a middling surface, glossy finishes shine more and rough ones less, in a sensible order.
+TEST(ApplyFinish, FinishesOrderFromWetToRough) {
+  const auto finished = [](int32_t finish) {
+    SurfaceStyle surface = AllMovedAt(128);
+    applyFinish(surface, finish);
+    return surface;
+  };
+  const int32_t kSmoothToRough[] = {Finish::Wet, Finish::Polished, Finish::Default, Finish::Matte,
+                                    Finish::Rough};
+  for (size_t i = 1; i < std::size(kSmoothToRough); ++i) {
+    const SurfaceStyle smoother = finished(kSmoothToRough[i - 1]);
+    const SurfaceStyle rougher = finished(kSmoothToRough[i]);
+    SCOPED_TRACE(std::to_string(kSmoothToRough[i - 1]) + " then " +
+                 std::to_string(kSmoothToRough[i]));
+    EXPECT_LT(smoother.roughness, rougher.roughness);
+    EXPECT_GT(smoother.specular, rougher.specular);
+  }
+  // Worn and beaten finishes mark a new surface.
+  const SurfaceStyle fresh;
+  for (int32_t finish : {Finish::Cracked, Finish::Etched}) {
+    SurfaceStyle worn;
+    applyFinish(worn, finish);
+    EXPECT_GT(worn.edgeWear, fresh.edgeWear) << finish;
+  }
+  SurfaceStyle beaten;
+  applyFinish(beaten, Finish::Hammered);
+  EXPECT_GT(beaten.materialDepth, fresh.materialDepth);
 }
 
 TEST(ApplyFinish, AStrongerValueOfTheSkinSurvives) {
@@ -559,6 +569,18 @@ TEST(ApplyFinish, FinishesApplyOneAfterTheOther) {
        {184, 88, 70, 38, 72, 16, 0, 58, 26},
        Finish::Frosted,
        MaterialKind::BrushedMetal},
+      {"rough alone",
+       MaterialKind::Granite,
+       {Finish::Rough},
+       {188, 58, 70, 38, 86, 0, 58, 88, 26},
+       Finish::Rough,
+       MaterialKind::Granite},
+      {"cracked alone",
+       MaterialKind::Marble,
+       {Finish::Cracked},
+       {142, 96, 70, 38, 108, 0, 70, 104, 42},
+       Finish::Cracked,
+       MaterialKind::Marble},
       {"default after wet undoes nothing",
        MaterialKind::Gemstone,
        {Finish::Wet, Finish::Default},
@@ -632,7 +654,7 @@ TEST(ApplyMaterialPreset, FinishOfTheRowDecidesTheResult) {
       {L"limestone", Finish::Matte, MaterialKind::Marble, 168, 34},
   };
   for (const Case& c : kCases) {
-    SCOPED_TRACE(std::string(c.name, c.name + wcslen(c.name)));
+    SCOPED_TRACE(Narrow(c.name));
     const MaterialPreset* preset = findMaterialPreset(c.name);
     ASSERT_NE(preset, nullptr);
     EXPECT_EQ(preset->finish, c.finish);
@@ -645,60 +667,47 @@ TEST(ApplyMaterialPreset, FinishOfTheRowDecidesTheResult) {
   }
 }
 
-// Every row lands on a surface as the fixture says, overwriting whatever the surface held.
-TEST(ApplyMaterialPreset, EveryRowCopiesAllItsValues) {
-  const std::vector<FixtureRow> fixture = LoadFixture();
-  ASSERT_EQ(fixture.size(), materialPresets().size());
-  for (size_t i = 0; i < fixture.size(); ++i) {
-    const FixtureRow& row = fixture[i];
-    SCOPED_TRACE(row.name);
-    SurfaceStyle odd = AllMovedAt(7);
-    odd.material = MaterialKind::Paper;
-    odd.materialStrength = 1;
-    odd.materialTint = rgbColor(1, 1, 1);
-    odd.backlightColor = rgbColor(2, 2, 2);
-    odd.materialLightElevation = 3;
-    odd.materialScale = 4;
-    odd.materialAngle = 5;
-    odd.materialLightAngle = 6;
-    odd.noiseSeed = 8;
-    odd.finish = 9;
-
-    SurfaceStyle actual = odd;
-    applyMaterialPreset(actual, materialPresets()[i]);
-
-    SurfaceStyle expected = odd;
-    expected.material = KindNamed(row.kind);
-    expected.materialTint = ParseHex(row.tint);
-    expected.backlightColor = WarmBacklight(expected.materialTint);
-    expected.materialStrength = static_cast<uint8_t>(row.strength);
-    expected.highlightOpacity = static_cast<uint8_t>(row.highlight);
-    expected.reflectionOpacity = static_cast<uint8_t>(row.reflection);
-    expected.grainOpacity = static_cast<uint8_t>(DefaultGrainOf(row.kind));
-    expected.materialDepth = static_cast<uint8_t>(row.depth);
-    expected.roughness = static_cast<uint8_t>(row.roughness);
-    expected.specular = static_cast<uint8_t>(row.specular);
-    expected.ambientOcclusion = static_cast<uint8_t>(row.occlusion);
-    expected.edgeWear = static_cast<uint8_t>(row.edgeWear);
-    expected.textureOpacity = static_cast<uint8_t>(row.texture);
-    expected.materialLightElevation = 62;
-    expected.materialScale = row.scale;
-    expected.materialAngle = row.angle;
-    expected.materialLightAngle = row.lightAngle;
-    expected.noiseSeed = SeedOf(row.name);
-    applyFinish(expected, FinishNamed(row.finish));
-
-    EXPECT_EQ(actual.material, expected.material);
-    EXPECT_EQ(actual.materialTint, expected.materialTint);
-    EXPECT_EQ(actual.backlightColor, expected.backlightColor);
-    EXPECT_EQ(actual.materialStrength, expected.materialStrength);
-    EXPECT_EQ(MovedOf(actual), MovedOf(expected));
-    EXPECT_EQ(actual.materialLightElevation, expected.materialLightElevation);
-    EXPECT_EQ(actual.materialScale, expected.materialScale);
-    EXPECT_EQ(actual.materialAngle, expected.materialAngle);
-    EXPECT_EQ(actual.materialLightAngle, expected.materialLightAngle);
-    EXPECT_EQ(actual.noiseSeed, expected.noiseSeed);
-    EXPECT_EQ(actual.finish, expected.finish);
+// A preset overwrites everything it carries, so the surface it lands on doesn't matter for
+// those values, and it leaves everything else alone.
+TEST(ApplyMaterialPreset, EveryPresetReplacesItsValuesAndNothingElse) {
+  SurfaceStyle odd = AllMovedAt(7);
+  odd.material = MaterialKind::Paper;
+  odd.materialStrength = 1;
+  odd.materialTint = rgbColor(1, 1, 1);
+  odd.backlightColor = rgbColor(2, 2, 2);
+  odd.materialLightElevation = 3;
+  odd.materialScale = 4;
+  odd.materialAngle = 5;
+  odd.materialLightAngle = 6;
+  odd.noiseSeed = 8;
+  odd.finish = 9;
+  odd.fill = rgbColor(9, 8, 7);
+  odd.innerGlow = 12;
+  odd.uvScale = 13;
+  for (const MaterialPreset& preset : materialPresets()) {
+    SCOPED_TRACE(Narrow(preset.name));
+    SurfaceStyle fromOdd = odd;
+    SurfaceStyle fromNew;
+    applyMaterialPreset(fromOdd, preset);
+    applyMaterialPreset(fromNew, preset);
+    EXPECT_EQ(MovedOf(fromOdd), MovedOf(fromNew));
+    EXPECT_EQ(fromOdd.material, fromNew.material);
+    EXPECT_EQ(fromOdd.materialStrength, preset.strength);
+    EXPECT_EQ(fromOdd.materialTint, preset.tint);
+    EXPECT_EQ(fromOdd.backlightColor, preset.backlight);
+    EXPECT_EQ(fromOdd.materialLightElevation, preset.lightElevation);
+    EXPECT_EQ(fromOdd.materialScale, preset.scale);
+    EXPECT_EQ(fromOdd.materialAngle, preset.angle);
+    EXPECT_EQ(fromOdd.materialLightAngle, preset.lightAngle);
+    EXPECT_EQ(fromOdd.noiseSeed, preset.noiseSeed);
+    EXPECT_EQ(fromOdd.finish, preset.finish);
+    EXPECT_EQ(fromOdd.fill, odd.fill);
+    EXPECT_EQ(fromOdd.innerGlow, odd.innerGlow);
+    EXPECT_EQ(fromOdd.uvScale, odd.uvScale);
+    // The finish has done its work: applying it again changes nothing.
+    SurfaceStyle again = fromOdd;
+    applyFinish(again, preset.finish);
+    EXPECT_EQ(MovedOf(again), MovedOf(fromOdd));
   }
 }
 
@@ -727,6 +736,50 @@ TEST(ApplyMaterialPreset, StrengthIsKeptWhenTheKindIsNone) {
     EXPECT_EQ(surface.materialStrength, c.strengthAfter);
     EXPECT_EQ(surface.roughness, 120);  // the other bytes are copied either way
   }
+}
+
+// The skin-wide profile lands as a preset does where they share values, clamps its wider
+// numbers to bytes, and moves only the strength by the delta.
+TEST(ApplyMaterial, TheProfileLandsLikeAPresetAndTheDeltaMovesOnlyTheStrength) {
+  tessel::JsonValue json;
+  ASSERT_TRUE(tessel::parseJsonText(L"{\"surface\": \"granite\"}", json));
+  MaterialProfile profile;
+  tessel::parseMaterialProfile(json, tessel::Theme(), profile);
+  ASSERT_TRUE(profile.enabled);
+  const MaterialPreset& granite = *findMaterialPreset(L"granite");
+  SurfaceStyle byPreset;
+  applyMaterialPreset(byPreset, granite);
+  SurfaceStyle byProfile;
+  applyMaterial(byProfile, profile, MaterialKind::Granite, -30);
+  EXPECT_EQ(MovedOf(byProfile), MovedOf(byPreset));
+  EXPECT_EQ(byProfile.materialTint, byPreset.materialTint);
+  EXPECT_EQ(byProfile.backlightColor, byPreset.backlightColor);
+  EXPECT_EQ(byProfile.materialLightElevation, byPreset.materialLightElevation);
+  EXPECT_EQ(byProfile.materialScale, byPreset.materialScale);
+  EXPECT_EQ(byProfile.materialAngle, byPreset.materialAngle);
+  EXPECT_EQ(byProfile.materialLightAngle, byPreset.materialLightAngle);
+  EXPECT_EQ(byProfile.noiseSeed, byPreset.noiseSeed);
+  EXPECT_EQ(byProfile.finish, byPreset.finish);
+  EXPECT_EQ(byProfile.materialStrength, profile.strength - 30);
+  EXPECT_TRUE(byProfile.useGradient);
+
+  profile.strength = 250;
+  profile.specular = 900;
+  profile.roughness = -4;
+  profile.finish = Finish::Default;
+  SurfaceStyle clamped;
+  applyMaterial(clamped, profile, MaterialKind::Glass, 20);
+  EXPECT_EQ(clamped.materialStrength, 255);
+  EXPECT_EQ(clamped.specular, 255);
+  EXPECT_EQ(clamped.roughness, 0);
+  SurfaceStyle none;
+  applyMaterial(none, profile, MaterialKind::None, 20);
+  EXPECT_EQ(none.materialStrength, 0);
+  profile.enabled = false;
+  SurfaceStyle untouched;
+  applyMaterial(untouched, profile, MaterialKind::Glass, 0);
+  EXPECT_EQ(untouched.material, MaterialKind::None);
+  EXPECT_EQ(MovedOf(untouched), MovedOf(SurfaceStyle()));
 }
 
 }  // namespace

@@ -2,65 +2,69 @@
 
 #include <gtest/gtest.h>
 
+#include <cwctype>
+#include <set>
+#include <string>
+
 namespace tessel {
 namespace {
+
+std::wstring Upper(std::wstring text) {
+  for (wchar_t& c : text)
+    c = static_cast<wchar_t>(std::towupper(c));
+  return text;
+}
 
 struct ShapeCase {
   const wchar_t* text;
   ShapeKind kind;
 };
 
+// A few words skins use, at least one per kind.
 const ShapeCase kShapeCases[] = {
-    {L"rectangle", ShapeKind::Rectangle},
-    {L"rect", ShapeKind::Rectangle},
-    {L"square", ShapeKind::Rectangle},
-    {L"box", ShapeKind::Rectangle},
-    {L"rounded-rect", ShapeKind::RoundedRect},
-    {L"roundedrect", ShapeKind::RoundedRect},
-    {L"rounded-rectangle", ShapeKind::RoundedRect},
-    {L"roundedrectangle", ShapeKind::RoundedRect},
-    {L"round-rect", ShapeKind::RoundedRect},
-    {L"roundrect", ShapeKind::RoundedRect},
-    {L"win11-rounded", ShapeKind::RoundedRect},
-    {L"windows11-rounded", ShapeKind::RoundedRect},
-    {L"capsule", ShapeKind::Capsule},
-    {L"pill", ShapeKind::Capsule},
-    {L"round", ShapeKind::Capsule},
-    {L"rounded", ShapeKind::Capsule},
-    {L"diamond", ShapeKind::Diamond},
-    {L"rhombus", ShapeKind::Diamond},
-    {L"gem", ShapeKind::Diamond},
-    {L"beveled", ShapeKind::Bevel},
-    {L"bevel", ShapeKind::Bevel},
-    {L"cut-corner", ShapeKind::Bevel},
-    {L"cutcorner", ShapeKind::Bevel},
-    {L"chamfer", ShapeKind::Bevel},
-    {L"chamfered", ShapeKind::Bevel},
-    {L"octagon", ShapeKind::Octagon},
-    {L"octagonal", ShapeKind::Octagon},
-    {L"hexagon", ShapeKind::Hexagon},
-    {L"hexagonal", ShapeKind::Hexagon},
-    {L"slant-right", ShapeKind::SlantRight},
-    {L"slantright", ShapeKind::SlantRight},
-    {L"parallelogram", ShapeKind::SlantRight},
-    {L"parallelogram-right", ShapeKind::SlantRight},
-    {L"parallelogramright", ShapeKind::SlantRight},
+    {L"rect", ShapeKind::Rectangle},       {L"rounded-rect", ShapeKind::RoundedRect},
+    {L"pill", ShapeKind::Capsule},         {L"rounded", ShapeKind::Capsule},
+    {L"rhombus", ShapeKind::Diamond},      {L"cut-corner", ShapeKind::Bevel},
+    {L"chamfered", ShapeKind::Bevel},      {L"octagon", ShapeKind::Octagon},
+    {L"hexagonal", ShapeKind::Hexagon},    {L"parallelogram", ShapeKind::SlantRight},
     {L"slant-left", ShapeKind::SlantLeft},
-    {L"slantleft", ShapeKind::SlantLeft},
-    {L"parallelogram-left", ShapeKind::SlantLeft},
-    {L"parallelogramleft", ShapeKind::SlantLeft},
-    // Trimmed and lower-cased before the comparison.
-    {L"  Pill\t", ShapeKind::Capsule},
-    {L"HEXAGON", ShapeKind::Hexagon},
-    {L"\nCut-Corner ", ShapeKind::Bevel},
 };
 
-TEST(ParseShapeKind, AcceptsEverySkinSpelling) {
+// Start from a kind the word does not name, so that a no-op cannot pass.
+ShapeKind OtherThan(ShapeKind kind) {
+  return kind == ShapeKind::Octagon ? ShapeKind::Diamond : ShapeKind::Octagon;
+}
+
+TEST(ParseShapeKind, WordsReachEveryKindWhateverTheCaseAndSurroundingBlanks) {
+  std::set<ShapeKind> reached;
   for (const ShapeCase& c : kShapeCases) {
-    // Start from a kind the text does not name, so that a no-op cannot pass.
-    ShapeKind kind = c.kind == ShapeKind::Octagon ? ShapeKind::Diamond : ShapeKind::Octagon;
-    EXPECT_TRUE(parseShapeKind(c.text, kind)) << c.text;
-    EXPECT_EQ(kind, c.kind) << c.text;
+    for (const std::wstring& text :
+         {std::wstring(c.text), Upper(c.text), L"  " + std::wstring(c.text) + L"\t\n"}) {
+      ShapeKind kind = OtherThan(c.kind);
+      EXPECT_TRUE(parseShapeKind(text, kind)) << text;
+      EXPECT_EQ(kind, c.kind) << text;
+    }
+    reached.insert(c.kind);
+  }
+  for (int32_t number = 0; number <= static_cast<int32_t>(ShapeKind::SlantLeft); ++number)
+    EXPECT_EQ(reached.count(static_cast<ShapeKind>(number)), 1u) << "no word for kind " << number;
+}
+
+TEST(ParseShapeKind, HyphenAndItsAbsenceAreBothWordsButAnUnderscoreIsNot) {
+  for (const ShapeCase& c : kShapeCases) {
+    const std::wstring word = c.text;
+    if (word.find(L'-') == std::wstring::npos) continue;
+    std::wstring joined, underscored = word;
+    for (wchar_t ch : word)
+      if (ch != L'-') joined += ch;
+    for (wchar_t& ch : underscored)
+      if (ch == L'-') ch = L'_';
+    ShapeKind kind = OtherThan(c.kind);
+    EXPECT_TRUE(parseShapeKind(joined, kind)) << joined;
+    EXPECT_EQ(kind, c.kind) << joined;
+    kind = OtherThan(c.kind);
+    EXPECT_FALSE(parseShapeKind(underscored, kind)) << underscored;
+    EXPECT_EQ(kind, OtherThan(c.kind)) << underscored;
   }
 }
 
@@ -82,39 +86,29 @@ struct ModeCase {
 };
 
 const ModeCase kModeCases[] = {
-    {L"fallback", GeometryMode::FallbackShape},
-    {L"fallbackshape", GeometryMode::FallbackShape},
-    {L"shape", GeometryMode::FallbackShape},
     {L"visualonly", GeometryMode::FallbackShape},
-    {L"bitmapvisualonly", GeometryMode::FallbackShape},
-    {L"skinalphahit", GeometryMode::SkinAlphaHitTest},
     {L"skinalphahittest", GeometryMode::SkinAlphaHitTest},
-    {L"alphahit", GeometryMode::SkinAlphaHitTest},
-    {L"bitmapalphahit", GeometryMode::SkinAlphaHitTest},
-    {L"skinalphalayout", GeometryMode::SkinAlphaLayout},
     {L"alpha", GeometryMode::SkinAlphaLayout},
-    {L"alphalayout", GeometryMode::SkinAlphaLayout},
-    {L"bitmapalphashape", GeometryMode::SkinAlphaLayout},
-    {L"bitmapalphalayout", GeometryMode::SkinAlphaLayout},
-    {L"mask", GeometryMode::MaskAlphaLayout},
-    {L"maskalpha", GeometryMode::MaskAlphaLayout},
-    {L"maskalphalayout", GeometryMode::MaskAlphaLayout},
     {L"bitmapmaskedlayout", GeometryMode::MaskAlphaLayout},
-    // Compared as keys: case, "_", "-" and blanks do not matter.
-    {L"skin_alpha_hit_test", GeometryMode::SkinAlphaHitTest},
-    {L"fallback_shape", GeometryMode::FallbackShape},
-    {L"Mask-Alpha-Layout", GeometryMode::MaskAlphaLayout},
-    {L" Skin Alpha Layout ", GeometryMode::SkinAlphaLayout},
-    {L"VISUAL_ONLY", GeometryMode::FallbackShape},
 };
 
-TEST(ParseGeometryMode, AcceptsEverySpellingAsAKey) {
+TEST(ParseGeometryMode, WordsReachEveryModeAndAreComparedAsKeys) {
+  std::set<GeometryMode> reached;
   for (const ModeCase& c : kModeCases) {
-    GeometryMode mode = c.mode == GeometryMode::MaskAlphaLayout ? GeometryMode::FallbackShape
-                                                                : GeometryMode::MaskAlphaLayout;
-    EXPECT_TRUE(parseGeometryMode(c.text, mode)) << c.text;
-    EXPECT_EQ(mode, c.mode) << c.text;
+    // Compared as keys: case, "_", "-" and blanks do not matter.
+    std::wstring spaced;
+    for (const wchar_t ch : std::wstring(c.text))
+      spaced += spaced.empty() ? std::wstring(1, ch) : std::wstring(L"_-") + ch;
+    for (const std::wstring& text : {std::wstring(c.text), Upper(c.text), L" " + spaced + L" "}) {
+      GeometryMode mode = c.mode == GeometryMode::MaskAlphaLayout ? GeometryMode::FallbackShape
+                                                                  : GeometryMode::MaskAlphaLayout;
+      EXPECT_TRUE(parseGeometryMode(text, mode)) << text;
+      EXPECT_EQ(mode, c.mode) << text;
+    }
+    reached.insert(c.mode);
   }
+  for (int32_t number = 0; number <= static_cast<int32_t>(GeometryMode::MaskAlphaLayout); ++number)
+    EXPECT_EQ(reached.count(static_cast<GeometryMode>(number)), 1u) << "no word for " << number;
 }
 
 TEST(ParseGeometryMode, UnknownSpellingLeavesTheValue) {

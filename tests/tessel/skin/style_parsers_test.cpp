@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tessel/skin/control_style_parsers.h"
+#include "tessel/skin/style_record.h"
 #include "tessel/skin/surface_parser.h"
 #include "tessel/skin/style_builders.h"
 
@@ -29,7 +29,7 @@ TEST(ButtonParser, WholeObjectAppliesToEveryStateThenTheStateOwnMember) {
   const Theme theme;
   const StyleContext context{&theme, L""};
   ButtonStyle button = buildButtonStyle(theme, SurfaceMode::Flat2d, ButtonTone::Default);
-  parseButtonStyle(StyleReader(table, L"", context), button);
+  parseStyle(StyleReader(table, L"", context), button);
   EXPECT_EQ(button.surface.normal.border, rgbColor(0xE2, 0xAA, 0x58));
   EXPECT_EQ(button.surface.pressed.border, rgbColor(0xE2, 0xAA, 0x58));
   EXPECT_EQ(button.surface.disabled.border, rgbColor(0xE2, 0xAA, 0x58));
@@ -44,12 +44,12 @@ TEST(ButtonParser, ShapeSetsAllStatesAndHitShapeOnlyTheClickOutline) {
   const Theme theme;
   const StyleContext context{&theme, L""};
   ButtonStyle button = buildButtonStyle(theme, SurfaceMode::Flat2d, ButtonTone::Default);
-  parseButtonStyle(StyleReader(table, L"", context), button);
+  parseStyle(StyleReader(table, L"", context), button);
   EXPECT_EQ(button.surface.normal.shape, ShapeKind::Capsule);
   EXPECT_EQ(button.surface.active.shape, ShapeKind::Capsule);
   EXPECT_EQ(button.surface.pressed.shape, ShapeKind::Hexagon);  // the state's own key is later
-  EXPECT_TRUE(button.hasHitShape);
-  EXPECT_EQ(button.hitShape, ShapeKind::Diamond);
+  EXPECT_TRUE(button.hitShape.present);
+  EXPECT_EQ(button.hitShape.kind, ShapeKind::Diamond);
   EXPECT_TRUE(button.useSurfaceHitTesting);
 }
 
@@ -60,7 +60,7 @@ TEST(ButtonParser, TextFromOwnLevelThenTextMember) {
   const Theme theme;
   const StyleContext context{&theme, L""};
   ButtonStyle button;
-  parseButtonStyle(StyleReader(table, L"", context), button);
+  parseStyle(StyleReader(table, L"", context), button);
   EXPECT_EQ(button.text.weight, 700);
   EXPECT_EQ(button.text.pointSize, 14);
   EXPECT_EQ(button.text.color, rgbColor(0x10, 0x20, 0x30));
@@ -310,7 +310,7 @@ TEST(TintParser, BitmapButtonStatesWithAliases) {
       L"{\"tint\": {\"color\": \"#101010\", \"hover\": {\"color\": \"#202020\"}, \"down\": "
       L"{\"color\": \"#303030\"}, \"checked\": {\"color\": \"#404040\"}}}");
   BitmapButtonStyle style = buildBitmapButtonStyle(theme);
-  parseBitmapButtonStyle(StyleReader(table, L"", context), style);
+  parseStyle(StyleReader(table, L"", context), style);
   EXPECT_EQ(style.tints.normal.color, rgbColor(0x10, 0x10, 0x10));
   EXPECT_EQ(style.tints.disabled.color, rgbColor(0x10, 0x10, 0x10));
   EXPECT_EQ(style.tints.hot.color, rgbColor(0x20, 0x20, 0x20));
@@ -340,7 +340,7 @@ TEST(ScrollAccelerationParser, ReadsAndClamps) {
     const Theme theme;
     const StyleContext context{&theme, L""};
     ScrollAcceleration acceleration;
-    parseScrollAcceleration(StyleReader(table, L"", context), acceleration);
+    parseStyle(StyleReader(table, L"", context), acceleration);
     EXPECT_FLOAT_EQ(acceleration.strength, c.strength) << c.json;
     EXPECT_FLOAT_EQ(acceleration.maxMultiplier, c.maxMultiplier) << c.json;
     EXPECT_EQ(acceleration.fastIntervalMs, c.fastIntervalMs) << c.json;
@@ -358,7 +358,7 @@ TEST(ControlParsers, SubSurfacesShapesAndMetricsUnderAPrefix) {
   const StyleContext context{&theme, L""};
   TableListStyle style = buildTableListStyle(theme, SurfaceMode::Flat2d);
   const TableListStyle before = style;
-  parseTableListStyle(StyleReader(table, L"table", context), style);
+  parseStyle(StyleReader(table, L"table", context), style);
   EXPECT_EQ(style.header.shape, ShapeKind::Bevel);
   EXPECT_EQ(style.header.fill, rgbColor(1, 2, 3));
   EXPECT_EQ(style.rowHeight, 31);
@@ -378,11 +378,11 @@ TEST(ControlParsers, NestedButtonStylesAndScrollBars) {
   const Theme theme;
   const StyleContext context{&theme, L""};
   PopupStyle popup = buildPopupStyle(theme, SurfaceMode::Sculpted3d);
-  parsePopupStyle(StyleReader(table, L"", context), popup);
+  parseStyle(StyleReader(table, L"", context), popup);
   EXPECT_EQ(popup.primaryAction.surface.hot.shape, ShapeKind::Capsule);
   EXPECT_EQ(popup.secondaryAction.surface.hot.shape, ShapeKind::RoundedRect);
   SelectBoxStyle select = buildSelectBoxStyle(theme, SurfaceMode::Sculpted3d);
-  parseSelectBoxStyle(StyleReader(table, L"", context), select);
+  parseStyle(StyleReader(table, L"", context), select);
   EXPECT_EQ(select.scrollBar.thumb.normal.shape, ShapeKind::Rectangle);
   EXPECT_EQ(select.scrollBar.thumb.hot.fill, rgbColor(0x44, 0x55, 0x66));
   EXPECT_TRUE(select.scrollBar.showButtons);

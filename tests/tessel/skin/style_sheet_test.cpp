@@ -72,7 +72,7 @@ TEST(StyleSheet, MaterialDeltasByRoleAndState) {
   EXPECT_EQ(primary.surface.hot.materialStrength, 136);
   EXPECT_EQ(sheet.panels.get(L"glass").surface.material, MaterialKind::FrostedGlass);
   EXPECT_EQ(sheet.panels.get(L"glass").surface.materialStrength, 124);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").boxUnchecked.materialStrength, 104);
+  EXPECT_EQ(sheet.checkBoxes.get(L"default").unchecked.normal.materialStrength, 104);
   EXPECT_EQ(sheet.scrollBars.get(L"default").thumb.pressed.materialStrength, 106);
   // Without a profile nothing changes.
   EXPECT_EQ(StyleSheet(Skin(L"")).buttons.get(L"default").surface.normal.material,
@@ -90,7 +90,7 @@ TEST(StyleSheet, ShapeRolesReachTheirRecords) {
   EXPECT_NE(sheet.tableLists.get(L"default").row.shape, ShapeKind::Bevel);
   EXPECT_EQ(sheet.scrollBars.get(L"default").thumbThickness, 7);
   EXPECT_EQ(sheet.selectBoxes.get(L"default").scrollBar.thumbThickness, 7);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").boxCheckedHot.shape, ShapeKind::Diamond);
+  EXPECT_EQ(sheet.checkBoxes.get(L"default").checked.hot.shape, ShapeKind::Diamond);
 }
 
 TEST(StyleSheet, WindowOverridesOnlyWithTheDefaultId) {
@@ -135,6 +135,118 @@ TEST(StyleSheet, UnknownIdsFallToDefaultAndIdsIgnoreSpelling) {
   EXPECT_TRUE(sheet.text.contains(L"title"));
   EXPECT_TRUE(sheet.panels.contains(L"dashboard"));
   EXPECT_TRUE(sheet.cards.contains(L"warning"));
+}
+
+// Skins key each state of these controls apart; every spelling lands on its own state alone.
+TEST(StyleSheet, StateKeysLandOnTheirStateAlone) {
+  struct Case {
+    const wchar_t* type;
+    const wchar_t* key;
+    const ControlStates& (*states)(const StyleSheet&);
+    SurfaceStyle ControlStates::*state;
+  };
+  const Case kCases[] = {
+      {L"checkbox", L"boxUncheckedHot",
+       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").unchecked; },
+       &ControlStates::hot},
+      {L"checkbox", L"box_checked_disabled",
+       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").checked; },
+       &ControlStates::disabled},
+      {L"selectbox", L"pressedSurface",
+       [](const StyleSheet& s) -> const ControlStates& { return s.selectBoxes.get(L"x").surface; },
+       &ControlStates::pressed},
+      {L"combo", L"arrowPressedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.selectBoxes.get(L"x").arrowSurface;
+       },
+       &ControlStates::pressed},
+      {L"selectbox", L"optionSelectedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.selectBoxes.get(L"x").optionSurface;
+       },
+       &ControlStates::active},
+      {L"textinput", L"focusedSurface",
+       [](const StyleSheet& s) -> const ControlStates& { return s.textInputs.get(L"x").surface; },
+       &ControlStates::active},
+      {L"dateinput", L"daySelectedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.dateInputs.get(L"x").daySurface;
+       },
+       &ControlStates::active},
+      {L"menubar", L"itemActiveSurface",
+       [](const StyleSheet& s) -> const ControlStates& { return s.menuBars.get(L"x").itemSurface; },
+       &ControlStates::active},
+      {L"menu", L"popupItemPressedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.menuBars.get(L"x").popupItemSurface;
+       },
+       &ControlStates::pressed},
+      {L"listbox", L"selectedRowHot",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.listBoxes.get(L"x").selectedRow;
+       },
+       &ControlStates::hot},
+  };
+  const Color kGiven = rgbColor(0x0A, 0x0B, 0x0C);
+  for (const Case& c : kCases) {
+    const std::wstring type = c.type, key = c.key;
+    SCOPED_TRACE(std::string(key.begin(), key.end()));
+    const StyleSheet sheet(
+        Skin(L",\"styles\":{\"" + type + L"\":{\"x\":{\"" + key + L"\":{\"fill\":\"#0A0B0C\"}}}}"));
+    const ControlStates& states = c.states(sheet);
+    for (SurfaceStyle ControlStates::*state :
+         {&ControlStates::normal, &ControlStates::hot, &ControlStates::pressed,
+          &ControlStates::disabled, &ControlStates::active}) {
+      EXPECT_EQ((states.*state).fill == kGiven, state == c.state);
+    }
+  }
+}
+
+TEST(StyleSheet, StateShapeRolesAndMaterialReachTheSameStatesAsBefore) {
+  const StyleSheet sheet(
+      Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
+           L"\"gloss\",\"strength\":120},\"shapes\":{\"select_arrow\":\"diamond\","
+           L"\"listbox\":{\"row\":\"hexagon\"},\"menu_popup_item\":\"bevel\","
+           L"\"text_input\":\"pill\"}"));
+  const SelectBoxStyle& select = sheet.selectBoxes.get(L"default");
+  for (const SurfaceStyle* arrow : {&select.arrowSurface.normal, &select.arrowSurface.hot,
+                                    &select.arrowSurface.pressed, &select.arrowSurface.disabled})
+    EXPECT_EQ(arrow->shape, ShapeKind::Diamond);
+  EXPECT_NE(select.surface.normal.shape, ShapeKind::Diamond);
+  const HierarchicalListBoxStyle& list = sheet.listBoxes.get(L"default");
+  for (const SurfaceStyle* row : {&list.row.normal, &list.row.hot, &list.row.pressed})
+    EXPECT_EQ(row->shape, ShapeKind::Hexagon);
+  EXPECT_NE(list.selectedRow.normal.shape, ShapeKind::Hexagon);
+  const MenuBarStyle& menu = sheet.menuBars.get(L"default");
+  EXPECT_EQ(menu.popupItemSurface.hot.shape, ShapeKind::Bevel);
+  EXPECT_EQ(menu.popupItemSurface.pressed.shape, ShapeKind::Bevel);
+  EXPECT_NE(menu.itemSurface.hot.shape, ShapeKind::Bevel);
+  const TextInputStyle& input = sheet.textInputs.get(L"default");
+  EXPECT_EQ(input.surface.active.shape, ShapeKind::Capsule);
+  EXPECT_EQ(input.surface.disabled.shape, ShapeKind::Capsule);
+
+  // The box of a check box wears the control material unchecked and the accent checked.
+  const CheckBoxStyle& check = sheet.checkBoxes.get(L"default");
+  EXPECT_EQ(check.unchecked.pressed.material, MaterialKind::Rubber);
+  EXPECT_EQ(check.checked.pressed.material, MaterialKind::Gloss);
+  // Hot is the strongest state of a select box, disabled the weakest.
+  EXPECT_GT(select.surface.hot.materialStrength, select.surface.normal.materialStrength);
+  EXPECT_GT(select.surface.normal.materialStrength, select.surface.pressed.materialStrength);
+  EXPECT_GT(select.surface.pressed.materialStrength, select.surface.disabled.materialStrength);
+  EXPECT_EQ(select.arrowSurface.normal.material, MaterialKind::None);
+  // An input's focus takes the material; pressing and disabling it don't.
+  EXPECT_EQ(input.surface.active.material, MaterialKind::Rubber);
+  EXPECT_EQ(input.surface.pressed.material, MaterialKind::None);
+  EXPECT_EQ(input.surface.disabled.material, MaterialKind::None);
+  EXPECT_EQ(sheet.dateInputs.get(L"default").surface.disabled.material, MaterialKind::None);
+  EXPECT_EQ(list.selectedRow.hot.material, MaterialKind::Gloss);
+  EXPECT_EQ(list.row.hot.material, MaterialKind::None);
+  // Buttons inside other records take their parent's slot: accent for a popup's primary action.
+  const PopupStyle& popup = sheet.popups.get(L"default");
+  EXPECT_EQ(popup.primaryAction.surface.disabled.material, MaterialKind::Gloss);
+  EXPECT_EQ(popup.closeButton.surface.hot.material, MaterialKind::Rubber);
+  EXPECT_GT(popup.primaryAction.surface.hot.materialStrength,
+            popup.closeButton.surface.hot.materialStrength);
 }
 
 }  // namespace

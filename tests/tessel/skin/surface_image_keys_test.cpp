@@ -6,7 +6,7 @@
 
 #include "tessel/skin/json_value.h"
 #include "tessel/skin/property_table.h"
-#include "tessel/skin/control_style_parsers.h"
+#include "tessel/skin/style_record.h"
 #include "tessel/skin/surface_parser.h"
 #include "tests/support/source_files.h"
 
