@@ -148,8 +148,6 @@ LRESULT Win32WindowPlatform::handle(UINT message, WPARAM wParam, LPARAM lParam) 
     hook_(record);
     if (record.handled) return record.result;
   }
-  const Point at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-  const uint32_t keys = static_cast<uint32_t>(wParam);
   switch (message) {
     case WM_CREATE:
       SetTimer(hwnd_, kTimerId, Window::kTimerMs, nullptr);
@@ -194,32 +192,12 @@ LRESULT Win32WindowPlatform::handle(UINT message, WPARAM wParam, LPARAM lParam) 
     case WM_DISPLAYCHANGE:
       keepOnMonitor();
       return 0;
-    case WM_GETMINMAXINFO: {
-      auto* info = reinterpret_cast<MINMAXINFO*>(lParam);
-      Rect screen, work;
-      monitorAreas(MonitorFromWindow(hwnd_, MONITOR_DEFAULTTONEAREST), screen, work);
-      const WindowLimits current{{info->ptMaxSize.x, info->ptMaxSize.y},
-                                 {info->ptMaxPosition.x, info->ptMaxPosition.y},
-                                 {info->ptMinTrackSize.x, info->ptMinTrackSize.y},
-                                 {info->ptMaxTrackSize.x, info->ptMaxTrackSize.y}};
-      const WindowLimits limits = windowLimits(current, screen, work, minimumWindowSize());
-      info->ptMaxSize = POINT{limits.maxSize.width, limits.maxSize.height};
-      info->ptMaxPosition = POINT{limits.maxPosition.x, limits.maxPosition.y};
-      info->ptMinTrackSize = POINT{limits.minTrackSize.width, limits.minTrackSize.height};
-      info->ptMaxTrackSize = POINT{limits.maxTrackSize.width, limits.maxTrackSize.height};
+    case WM_GETMINMAXINFO:
+      limitSize(*reinterpret_cast<MINMAXINFO*>(lParam));
       return 0;
-    }
-    case WM_SIZING: {
-      auto* proposed = reinterpret_cast<RECT*>(lParam);
-      Rect screen, work;
-      monitorAreas(MonitorFromRect(proposed, MONITOR_DEFAULTTONEAREST), screen, work);
-      Size minimum = minimumWindowSize();
-      minimum.width = std::clamp(minimum.width, 1, std::max(work.width, 1));
-      minimum.height = std::clamp(minimum.height, 1, std::max(work.height, 1));
-      const Rect held = holdMinimumWhileSizing(rectOf(*proposed), int32_t(wParam), minimum);
-      *proposed = RECT{held.x, held.y, held.right(), held.bottom()};
+    case WM_SIZING:
+      holdSizing(*reinterpret_cast<RECT*>(lParam), wParam);
       return 1;
-    }
     case WM_ENTERSIZEMOVE:
       window_.enterSizeMove();
       return 0;
@@ -240,14 +218,25 @@ LRESULT Win32WindowPlatform::handle(UINT message, WPARAM wParam, LPARAM lParam) 
       if (hit != kHitClient) return hit;
       break;
     }
+    default:
+      if (handleInput(message, wParam, lParam)) return 0;
+      break;
+  }
+  return DefWindowProcW(hwnd_, message, wParam, lParam);
+}
+
+bool Win32WindowPlatform::handleInput(UINT message, WPARAM wParam, LPARAM lParam) {
+  const Point at{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+  const uint32_t keys = static_cast<uint32_t>(wParam);
+  switch (message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
       if (window_.keyPressed(uint32_t(wParam), keyHeld(VK_CONTROL), keyHeld(VK_SHIFT),
                              keyHeld(VK_MENU), hwnd_))
-        return 0;
+        return true;
       break;
     case WM_CHAR:
-      if (window_.character(static_cast<char16_t>(wParam), hwnd_)) return 0;
+      if (window_.character(static_cast<char16_t>(wParam), hwnd_)) return true;
       break;
     case WM_KEYUP:
     case WM_SYSKEYUP:
@@ -255,40 +244,64 @@ LRESULT Win32WindowPlatform::handle(UINT message, WPARAM wParam, LPARAM lParam) 
       if (wParam == VK_SNAPSHOT && !keyHeld(VK_CONTROL) && !keyHeld(VK_MENU) &&
           reinterpret_cast<INT_PTR>(ShellExecuteW(hwnd_, L"open", L"ms-screenclip:", nullptr,
                                                   nullptr, SW_SHOWNORMAL)) > 32)
-        return 0;
+        return true;
       break;
     case WM_TIMER:
       if (wParam != kTimerId) break;
       window_.timer();
-      return 0;
+      return true;
     case WM_MOUSEMOVE:
       window_.pointerMoved(at, keys);
-      return 0;
+      return true;
     case WM_LBUTTONDOWN:
       window_.buttonPressed(at, keys);
-      return 0;
+      return true;
     case WM_LBUTTONUP:
       window_.buttonReleased(at, keys);
-      return 0;
+      return true;
     case WM_MOUSEWHEEL:
     case WM_MOUSEHWHEEL: {
       POINT point{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
       ScreenToClient(hwnd_, &point);
       if (window_.wheel(Point{point.x, point.y}, GET_WHEEL_DELTA_WPARAM(wParam),
                         message == WM_MOUSEHWHEEL, GET_KEYSTATE_WPARAM(wParam)))
-        return 0;
+        return true;
       break;
     }
     case WM_MOUSELEAVE:
       window_.pointerLeft();
-      return 0;
+      return true;
     case WM_CAPTURECHANGED:
       if (reinterpret_cast<HWND>(lParam) != hwnd_) window_.captureLost();
-      return 0;
+      return true;
     default:
-      break;
+      return false;
   }
-  return DefWindowProcW(hwnd_, message, wParam, lParam);
+  return false;
+}
+
+void Win32WindowPlatform::limitSize(MINMAXINFO& info) {
+  Rect screen, work;
+  monitorAreas(MonitorFromWindow(hwnd_, MONITOR_DEFAULTTONEAREST), screen, work);
+  const WindowLimits current{{info.ptMaxSize.x, info.ptMaxSize.y},
+                             {info.ptMaxPosition.x, info.ptMaxPosition.y},
+                             {info.ptMinTrackSize.x, info.ptMinTrackSize.y},
+                             {info.ptMaxTrackSize.x, info.ptMaxTrackSize.y}};
+  const WindowLimits limits = windowLimits(current, screen, work, minimumWindowSize());
+  info.ptMaxSize = POINT{limits.maxSize.width, limits.maxSize.height};
+  info.ptMaxPosition = POINT{limits.maxPosition.x, limits.maxPosition.y};
+  info.ptMinTrackSize = POINT{limits.minTrackSize.width, limits.minTrackSize.height};
+  info.ptMaxTrackSize = POINT{limits.maxTrackSize.width, limits.maxTrackSize.height};
+}
+
+void Win32WindowPlatform::holdSizing(RECT& proposed, WPARAM edge) {
+  Rect screen, work;
+  monitorAreas(MonitorFromRect(&proposed, MONITOR_DEFAULTTONEAREST), screen, work);
+  Size minimum = minimumWindowSize();
+  minimum.width = std::clamp(minimum.width, 1, std::max(work.width, 1));
+  minimum.height = std::clamp(minimum.height, 1, std::max(work.height, 1));
+  const Rect held = holdMinimumWhileSizing(rectOf(proposed), int32_t(edge), minimum);
+  proposed = RECT{held.x, held.y, held.right(), held.bottom()};
 }
 
 void Win32WindowPlatform::paint() {

@@ -72,6 +72,10 @@ class Win32WindowPlatform : public WindowPlatform {
  private:
   static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+  // Pointer and keyboard messages; true when the window consumed the message.
+  bool handleInput(UINT message, WPARAM wParam, LPARAM lParam);
+  void limitSize(MINMAXINFO& info);
+  void holdSizing(RECT& proposed, WPARAM edge);
   void paint();
   void printInto(HDC target);
   bool ensureBackBuffer(Size size);
