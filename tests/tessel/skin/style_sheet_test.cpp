@@ -2,6 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+#include <type_traits>
+
+#include "tessel/skin/style_record.h"
+
 namespace tessel {
 namespace {
 
@@ -247,6 +253,74 @@ TEST(StyleSheet, StateShapeRolesAndMaterialReachTheSameStatesAsBefore) {
   EXPECT_EQ(popup.closeButton.surface.hot.material, MaterialKind::Rubber);
   EXPECT_GT(popup.primaryAction.surface.hot.materialStrength,
             popup.closeButton.surface.hot.materialStrength);
+}
+
+// Hovering strengthens a control's material, pressing and disabling weaken it; a surface on the
+// skin's surface slot never shines above the skin's own strength.
+void ExpectStatesOrdered(const ControlStates& states, const std::string& what) {
+  const SurfaceStyle* const order[] = {&states.hot, &states.normal, &states.pressed,
+                                       &states.disabled};
+  for (size_t i = 0; i < std::size(order); ++i) {
+    for (size_t j = i + 1; j < std::size(order); ++j) {
+      if (order[i]->material == MaterialKind::None || order[j]->material == MaterialKind::None)
+        continue;
+      EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength)
+          << what << " states " << i << " and " << j;
+    }
+  }
+}
+
+template <typename Record>
+void ExpectMaterialOrder(Record record, const std::string& what, int32_t strength) {
+  std::set<const ControlStates*> seen;  // several rows may name states of one set
+  for (const StyleField<Record>& field : StyleFields<Record>::rows) {
+    if (const auto* state = std::get_if<StateOf<Record>>(&field.target)) {
+      if (seen.insert(&(record.*(state->states))).second)
+        ExpectStatesOrdered(record.*(state->states), what);
+      continue;
+    }
+    field_walk::withValue(record, field, [&](auto& value) {
+      using Value = std::remove_reference_t<decltype(value)>;
+      if constexpr (std::is_same_v<Value, ControlStates>) {
+        ExpectStatesOrdered(value, what);
+      } else if constexpr (StyleRecord<Value>) {
+        ExpectMaterialOrder(value, what + " nested", strength);
+      } else if constexpr (std::is_same_v<Value, SurfaceStyle>) {
+        if (field.material.slot == &MaterialProfile::surface) {
+          EXPECT_LE(value.materialStrength, strength) << what;
+        }
+      }
+    });
+  }
+}
+
+TEST(StyleSheet, MaterialStrengthFollowsTheStates) {
+  const StyleSheet sheet(
+      Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
+           L"\"gloss\",\"strength\":120}"));
+  const auto each = [](const auto& map, const char* kind) {
+    for (const auto& [id, record] : map.all())
+      ExpectMaterialOrder(record, kind + std::string(" ") + std::string(id.begin(), id.end()), 120);
+  };
+  each(sheet.buttons, "button");
+  each(sheet.cards, "card");
+  each(sheet.chromeTitleBars, "chrome");
+  each(sheet.statusChips, "chip");
+  each(sheet.progressBars, "progress");
+  each(sheet.scrollBars, "scroll");
+  each(sheet.checkBoxes, "check");
+  each(sheet.selectBoxes, "select");
+  each(sheet.listBoxes, "list");
+  each(sheet.dateInputs, "date");
+  each(sheet.tabStrips, "tabs");
+  each(sheet.menuBars, "menu");
+  each(sheet.tableLists, "table");
+  each(sheet.richTexts, "rich");
+  each(sheet.textInputs, "input");
+  each(sheet.selectableTexts, "selectable");
+  each(sheet.popups, "popup");
+  each(sheet.tooltips, "tooltip");
+  ExpectMaterialOrder(sheet.window(), "window", 120);
 }
 
 }  // namespace
