@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Expected pixels for tests/win32/image_file_win32_test.cpp, decoded without Windows: an 8-bit
+"""Expected pixels for tests/tessel/paint/image_file_win32_test.cpp, decoded without Windows: an 8-bit
 RGBA, non-interlaced PNG inflated with zlib and unfiltered, then premultiplied as
 (c * a + 127) / 255 and printed in B, G, R, A order.
 
