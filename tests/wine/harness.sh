@@ -25,21 +25,31 @@ WINE_TIMEOUT=${WINE_TIMEOUT:-60}
 _xvfb_pid=""
 _wineserver_pid=""
 
+# A display number of its own, chosen at random: suites start and end side by side, and a number
+# just given up by one suite's server is not handed to the next.
 _start_xvfb() {
   [ -n "${DISPLAY:-}" ] && return 0
-  local fifo
+  local fifo attempt candidate number
   fifo=$(mktemp -u)
   mkfifo "$fifo"
-  Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$fifo" >/dev/null 2>&1 &
-  _xvfb_pid=$!
-  local number
-  if ! read -r -t 20 number <"$fifo"; then
-    rm -f "$fifo"
-    echo "harness: Xvfb did not start" >&2
-    return 1
-  fi
+  for attempt in 1 2 3 4 5 6 7 8; do
+    candidate=$((100 + RANDOM % 800))
+    [ -e "/tmp/.X11-unix/X$candidate" ] || [ -e "/tmp/.X$candidate-lock" ] && continue
+    Xvfb ":$candidate" -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$fifo" >/dev/null 2>&1 &
+    _xvfb_pid=$!
+    # The server writes its number once it accepts clients; one that cannot listen ends at once.
+    if read -r -t 20 number <"$fifo" && [ "$number" = "$candidate" ]; then
+      rm -f "$fifo"
+      export DISPLAY=":$number"
+      return 0
+    fi
+    kill "$_xvfb_pid" 2>/dev/null
+    wait "$_xvfb_pid" 2>/dev/null
+    _xvfb_pid=""
+  done
   rm -f "$fifo"
-  export DISPLAY=":$number"
+  echo "harness: Xvfb did not start" >&2
+  return 1
 }
 
 _template_prefix() {
@@ -80,6 +90,12 @@ harness_start() {
   wineserver -f -p >/dev/null 2>&1 &
   _wineserver_pid=$!
   WIN_USER=$(ls "$WINEPREFIX/drive_c/users" | grep -v -x -e Public -e Default | head -n 1)
+  # Start the desktop now and prove that windows can be made, so that no test meets a display
+  # that is not ready.
+  wait_for 30 wintool window probe || {
+    echo "harness: Wine cannot create a window on $DISPLAY" >&2
+    exit 1
+  }
 }
 
 _harness_stop() {

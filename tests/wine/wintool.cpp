@@ -7,6 +7,7 @@
 //   wintool wait-gone CLASS TIMEOUT_MS          exit 0 once no window of the class exists
 //   wintool read-link FILE.lnk                   prints the shortcut's target, arguments, folder
 //   wintool add-root-cert FILE.der               trusts a certificate for HTTPS (machine ROOT)
+//   wintool window TITLE                         exit 0 when a top-level window can be created
 //   wintool send-first CLASS MSG WPARAM LPARAM TIMEOUT_MS
 //                                               waits for the window, sends at once; prints
 //                                               "result=N" and "after_found_ms=N"
@@ -184,6 +185,16 @@ int WaitGone(const wchar_t* window_class, DWORD timeout) {
   return 0;
 }
 
+// Creating a window needs the display driver and the desktop; the harness checks both this way
+// before a suite runs, so a display that is not ready fails loudly instead of as test failures.
+int ProbeWindow(const wchar_t* title) {
+  HWND window = CreateWindowExW(0, L"STATIC", title, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+                                GetModuleHandleW(nullptr), nullptr);
+  if (!window) return 1;
+  DestroyWindow(window);
+  return 0;
+}
+
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
@@ -204,6 +215,8 @@ int wmain(int argc, wchar_t** argv) {
     result = ReadLink(argv[2]);
   else if (verb == L"add-root-cert")
     result = AddRootCertificate(argv[2]);
+  else if (verb == L"window")
+    result = ProbeWindow(argv[2]);
   else if (verb == L"wait-gone" && argc > 3)
     result = WaitGone(argv[2], Number(argv[3]));
   std::fflush(stdout);
