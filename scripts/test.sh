@@ -56,6 +56,24 @@ format_check() {
   fi
 }
 
+# Test code against product code, in non-blank lines (fixtures and golden images are data).
+# The owner's limit is 0.40; a larger suite fails the run.
+size_ratio=""
+test_size() {
+  local tests product
+  nonblank() { xargs -r grep -cv '^\s*$' | awk -F: '{s += $NF} END {print s + 0}'; }
+  tests=$(git ls-files 'tests/*.cpp' 'tests/*.h' 'tests/*.inc' 'tests/*.sh' 'tests/*.py' | nonblank)
+  product=$(git ls-files '*.cpp' '*.h' '*.inc' | grep -vE '^(tests|bench)/' | nonblank)
+  size_ratio=$(awk -v t="$tests" -v p="$product" 'BEGIN {printf "%.2f", t / p}')
+  size_ratio="$size_ratio of the product code ($tests test lines, $product product lines)"
+  echo "test code: $size_ratio"
+  if awk -v t="$tests" -v p="$product" 'BEGIN {exit !(t > 0.40 * p)}'; then
+    failed=$((failed + 1))
+    return 1
+  fi
+  passed=$((passed + 1))
+}
+
 # A build that fails counts as a failure of its own.
 build_step() {
   scripts/build.sh "$1" || { failed=$((failed + 1)); return 1; }
@@ -70,8 +88,9 @@ step "windows tests under wine" ctest_suite build/windows
 step "fuzz build" build_step fuzz
 step "fuzzing" ctest_suite build/fuzz
 step "formatting" format_check
+step "test size" test_size
 
 echo
 [ ${#failures[@]} -gt 0 ] && echo "failed steps: ${failures[*]}"
-echo "summary: $passed passed, $failed failed, $skipped skipped"
+echo "summary: $passed passed, $failed failed, $skipped skipped; test code: ${size_ratio:-not measured}"
 [ "$failed" -eq 0 ] && [ "$skipped" -eq 0 ] && [ ${#failures[@]} -eq 0 ]
