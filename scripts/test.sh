@@ -13,13 +13,15 @@ passed=0        # tests that passed, over all suites
 failed=0        # tests and steps that failed
 skipped=0       # tests that did not run: none may, so they fail the run too
 failures=()
+timings=()     # seconds per step, printed at the end
 step() {
-  local name="$1"
+  local name="$1" started=$SECONDS
   shift
   echo "=== $name"
   if ! "$@"; then
     failures+=("$name")
   fi
+  timings+=("$name $((SECONDS - started))s")
 }
 
 # ctest's own count of tests run; a suite that ran nothing is a failure, not a pass.
@@ -91,6 +93,7 @@ step "formatting" format_check
 step "test size" test_size
 
 echo
+printf 'time: %s\n' "$(IFS=,; echo "${timings[*]}" | sed 's/,/, /g'), total ${SECONDS}s"
 [ ${#failures[@]} -gt 0 ] && echo "failed steps: ${failures[*]}"
 echo "summary: $passed passed, $failed failed, $skipped skipped; test code: ${size_ratio:-not measured}"
 [ "$failed" -eq 0 ] && [ "$skipped" -eq 0 ] && [ ${#failures[@]} -eq 0 ]
