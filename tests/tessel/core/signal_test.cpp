@@ -7,8 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "tessel/core/events.h"
-
 namespace tessel {
 namespace {
 
@@ -41,15 +39,6 @@ TEST(Signal, CallsEveryLiveSlotInOrderWithItsOwnCallable) {
   numbers.emit(value);
   EXPECT_EQ(value, 1112);
 
-  // `handled` is for the emitter: every slot still runs.
-  Signal<CommandEvent> command;
-  int later = 0;
-  command.connect([](CommandEvent& event) { event.handled = true; });
-  command.connect([&](CommandEvent&) { ++later; });
-  CommandEvent event;
-  command.emit(event);
-  EXPECT_EQ(later, 1);
-
   // An empty callable makes a slot that is never live; connect and emit compact dead slots.
   TraceSignal signal;
   signal.connect(nullptr);
@@ -64,24 +53,18 @@ TEST(Signal, CallsEveryLiveSlotInOrderWithItsOwnCallable) {
 }
 
 TEST(Signal, HandlersMayChangeTheListDuringAnEmission) {
-  TraceSignal self;
-  auto handle = std::make_shared<Connection>();
-  self.connect(record("a"));
-  *handle = self.connect(record("self", [handle] { handle->disconnect(); }));
-  self.connect(record("c"));
-  EXPECT_EQ(emitTrace(self), (Calls{"a", "self", "c"}));
-  EXPECT_EQ(emitTrace(self), (Calls{"a", "c"}));
-  EXPECT_EQ(self.size(), 2u);
-
-  // Slot 1 disconnects slot 0 (it has run already) or slot 2 (it stops at once).
-  for (int victim : {0, 2}) {
+  // Slot 1 disconnects slot 0 (it has run), itself (it runs once) or slot 2 (it stops at once).
+  const Calls firsts[] = {{"s0", "s1", "s2"}, {"s0", "s1", "s2"}, {"s0", "s1"}};
+  const Calls seconds[] = {{"s1", "s2"}, {"s0", "s2"}, {"s0", "s1"}};
+  for (int victim = 0; victim < 3; ++victim) {
     TraceSignal signal;
     Connection slots[3];
     slots[0] = signal.connect(record("s0"));
     slots[1] = signal.connect(record("s1", [&] { slots[victim].disconnect(); }));
     slots[2] = signal.connect(record("s2"));
-    EXPECT_EQ(emitTrace(signal), victim == 0 ? (Calls{"s0", "s1", "s2"}) : (Calls{"s0", "s1"}));
-    EXPECT_EQ(emitTrace(signal), victim == 0 ? (Calls{"s1", "s2"}) : (Calls{"s0", "s1"}));
+    EXPECT_EQ(emitTrace(signal), firsts[victim]);
+    EXPECT_EQ(emitTrace(signal), seconds[victim]);
+    EXPECT_EQ(signal.size(), 2u);
   }
 
   TraceSignal growing;  // a slot connected during an emission waits for the next one
