@@ -2,8 +2,10 @@
 // which surface was painted; a count of the pixels of one colour; and a record of system moves.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tessel/core/system_move.h"
@@ -46,6 +48,18 @@ inline int CountColor(const Image& image, Color color) {
     for (int32_t x = 0; x < image.width; ++x)
       count += PixelAt(image, x, y) == color && image.pixel(x, y)[3] == 255;
   return count;
+}
+
+// The first and last columns that hold `color`; (width, -1) when none does.
+inline std::pair<int, int> ColumnsOf(const Image& image, Color color) {
+  int first = image.width, last = -1;
+  for (int32_t y = 0; y < image.height; ++y)
+    for (int32_t x = 0; x < image.width; ++x)
+      if (PixelAt(image, x, y) == color) {
+        first = std::min(first, x);
+        last = std::max(last, x);
+      }
+  return {first, last};
 }
 
 // Notes each system move as "move <id>" in `seen` while it lives.

@@ -22,11 +22,7 @@ TEST(Label, AlignsTheLineAndPaintsMarkupWithoutItsMarks) {
   // "AB" is 11 pixels wide in the stand-in font.
   const std::pair<int32_t, int> cases[] = {{kAlignLeft, 0}, {kAlignCenter, 44}, {kAlignRight, 89}};
   for (const auto& [alignment, left] : cases) {
-    const Image image = Painted(L"AB", alignment);
-    int first = image.width, last = -1;
-    for (int y = 0; y < image.height; ++y)
-      for (int x = 0; x < image.width; ++x)
-        if (PixelAt(image, x, y) == kText) first = std::min(first, x), last = std::max(last, x);
+    const auto [first, last] = ColumnsOf(Painted(L"AB", alignment), kText);
     EXPECT_EQ(first, left) << alignment;
     EXPECT_EQ(last, left + 10) << alignment;
   }

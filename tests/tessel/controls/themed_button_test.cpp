@@ -74,11 +74,7 @@ TEST(ThemedButton, TextIsPaddedCentredAndEndsWithAnEllipsisWhenLong) {
   EXPECT_EQ(longText.clippedText(), L"ABCDEFGHIJ");
   EXPECT_EQ(shortened.clippedText(), L"");
   ThemedButton narrow = Button(L"I", {0, 0, 61, 21});  // "I": five pixels, its bar in the middle
-  const Image image = PaintedImage(narrow, {61, 21});
-  int left = image.width, right = -1;
-  for (int x = 0; x < image.width; ++x)
-    for (int y = 0; y < image.height; ++y)
-      if (PixelAt(image, x, y) == kText) left = std::min(left, x), right = std::max(right, x);
+  const auto [left, right] = ColumnsOf(PaintedImage(narrow, {61, 21}), kText);
   EXPECT_EQ(left + right, 60);
 }
 

@@ -148,7 +148,7 @@ TEST(WindowWin32, PaintsTheSkinThroughTheBackBuffer) {
   HDC screen = GetDC(hwnd);
   HDC memory = CreateCompatibleDC(screen);
   BITMAPINFO info{};
-  info.bmiHeader = {sizeof(info.bmiHeader), 320, -200, 1, 32};
+  info.bmiHeader = {sizeof(info.bmiHeader), 320, -200, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
   uint8_t* bits = nullptr;
   HBITMAP copy =
       CreateDIBSection(memory, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&bits), nullptr, 0);
@@ -177,13 +177,13 @@ TEST(WindowWin32, PaintsTheSkinThroughTheBackBuffer) {
   EXPECT_GT(differing, 4);
   // The card's text is drawn in its own (light) colour over the dark card.
   const Color title = card.titleText.color;
-  const auto near = [](uint8_t a, uint8_t b) { return std::abs(int(a) - int(b)) < 40; };
+  const auto similar = [](uint8_t a, uint8_t b) { return std::abs(int(a) - int(b)) < 40; };
   int nearTitle = 0;
   for (int y = 60; y < 90; ++y)
     for (int x = 60; x < 260; ++x) {
       const Color c = colourAt(x, y);
-      nearTitle += near(redOf(c), redOf(title)) && near(greenOf(c), greenOf(title)) &&
-                   near(blueOf(c), blueOf(title));
+      nearTitle += similar(redOf(c), redOf(title)) && similar(greenOf(c), greenOf(title)) &&
+                   similar(blueOf(c), blueOf(title));
     }
   EXPECT_GT(nearTitle, 40) << std::hex << title << " at 100,75: " << colourAt(100, 75);
 }
