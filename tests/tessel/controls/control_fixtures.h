@@ -1,12 +1,17 @@
 // Plain looks for control tests: flat one-colour surfaces without border, so that a pixel tells
-// which surface was painted, and a count of the pixels of one colour.
+// which surface was painted; a count of the pixels of one colour; and a record of system moves.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
 
+#include "tessel/core/system_move.h"
+#include "tessel/style/button_style.h"
 #include "tessel/style/image.h"
-#include "tessel/style/surface_style.h"
-#include "tessel/style/text_style.h"
+#include "tests/tessel/core/test_controls.h"
 
 namespace tessel {
 
@@ -17,6 +22,7 @@ inline SurfaceStyle FlatSurface(Color fill) {
   return surface;
 }
 
+// Disabled text is the colour's complement.
 inline TextStyle PlainText(Color color) {
   TextStyle text;
   text.color = color;
@@ -24,29 +30,44 @@ inline TextStyle PlainText(Color color) {
   return text;
 }
 
-inline Image OpaqueImage(int32_t width, int32_t height, Color color) {
-  Image image = Image::blank(width, height);
-  for (int32_t y = 0; y < height; ++y) {
-    for (int32_t x = 0; x < width; ++x) {
-      uint8_t* p = image.pixel(x, y);
-      p[0] = static_cast<uint8_t>((color >> 16) & 0xFF);
-      p[1] = static_cast<uint8_t>((color >> 8) & 0xFF);
-      p[2] = static_cast<uint8_t>(color & 0xFF);
-      p[3] = 255;
-    }
-  }
-  return image;
+// A button whose five states are flat surfaces of their own colours (normal, hot, pressed,
+// active, disabled), with white text.
+inline ButtonStyle FlatButton(const std::vector<Color>& states) {
+  ButtonStyle style;
+  SurfaceStyle* surfaces[] = {&style.surface.normal, &style.surface.hot, &style.surface.pressed,
+                              &style.surface.active, &style.surface.disabled};
+  for (size_t i = 0; i < 5; ++i)
+    *surfaces[i] = FlatSurface(states[i]);
+  style.text = PlainText(rgbColor(250, 250, 250));
+  return style;
 }
 
 inline int CountColor(const Image& image, Color color) {
   int count = 0;
-  for (int32_t y = 0; y < image.height; ++y) {
-    for (int32_t x = 0; x < image.width; ++x) {
-      const uint8_t* p = image.pixel(x, y);
-      if (rgbColor(p[2], p[1], p[0]) == color && p[3] == 255) ++count;
-    }
-  }
+  for (int32_t y = 0; y < image.height; ++y)
+    for (int32_t x = 0; x < image.width; ++x)
+      count += PixelAt(image, x, y) == color && image.pixel(x, y)[3] == 255;
   return count;
 }
+
+// The first and last columns that hold `color`; (width, -1) when none does.
+inline std::pair<int, int> ColumnsOf(const Image& image, Color color) {
+  int first = image.width, last = -1;
+  for (int32_t y = 0; y < image.height; ++y)
+    for (int32_t x = 0; x < image.width; ++x)
+      if (PixelAt(image, x, y) == color) {
+        first = std::min(first, x);
+        last = std::max(last, x);
+      }
+  return {first, last};
+}
+
+// Notes each system move as "move <id>" in `seen` while it lives.
+struct MoveRecorder {
+  explicit MoveRecorder(std::vector<std::wstring>& seen) {
+    setSystemMoveHook([&seen](Control& source) { seen.push_back(L"move " + source.id()); });
+  }
+  ~MoveRecorder() { setSystemMoveHook(nullptr); }
+};
 
 }  // namespace tessel

@@ -2,144 +2,83 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
 namespace tessel {
 namespace {
 
-MarkupSpan Plain(const wchar_t* text) {
-  return MarkupSpan{text};
-}
-MarkupSpan Bold(const wchar_t* text) {
-  MarkupSpan span{text};
-  span.bold = true;
-  return span;
-}
-MarkupSpan Italic(const wchar_t* text) {
-  MarkupSpan span{text};
-  span.italic = true;
-  return span;
-}
-MarkupSpan Code(const wchar_t* text) {
-  MarkupSpan span{text};
-  span.code = true;
-  return span;
-}
-MarkupSpan Link(const wchar_t* text, const wchar_t* target) {
-  MarkupSpan span{text};
-  span.link = true;
-  span.target = target;
-  return span;
-}
-
-TEST(InlineMarkup, SpansOfOneLine) {
-  struct Case {
-    const char* what;
-    const wchar_t* text;
-    std::vector<MarkupSpan> spans;
-  };
-  const Case kCases[] = {
-      {"plain", L"plain text", {Plain(L"plain text")}},
-      {"empty", L"", {}},
-      {"bold", L"a **b** c", {Plain(L"a "), Bold(L"b"), Plain(L" c")}},
-      {"unclosed double star prints as two stars", L"a ** b", {Plain(L"a ** b")}},
-      {"lone double star at the end", L"x**", {Plain(L"x**")}},
-      {"italic", L"*it* x", {Italic(L"it"), Plain(L" x")}},
-      {"a blank after the star is no italic", L"* not* x", {Plain(L"* not* x")}},
-      {"unclosed star", L"2*3", {Plain(L"2*3")}},
-      {"code", L"run `cmd /c` now", {Plain(L"run "), Code(L"cmd /c"), Plain(L" now")}},
-      {"marks inside code stay", L"`**x**`", {Code(L"**x**")}},
-      {"unclosed back quote", L"a `b", {Plain(L"a `b")}},
-      {"link",
-       L"see [docs](open:docs).",
-       {Plain(L"see "), Link(L"docs", L"open:docs"), Plain(L".")}},
-      {"brackets without a target", L"[x] y", {Plain(L"[x] y")}},
-      {"link without a closing parenthesis", L"[x](y", {Plain(L"[x](y")}},
-      {"bold then italic", L"**B***I*", {Bold(L"B"), Italic(L"I")}},
-  };
-  for (const Case& c : kCases) {
-    const std::vector<MarkupLine> lines = parseInlineMarkup(c.text);
-    ASSERT_EQ(lines.size(), 1u) << c.what;
-    EXPECT_EQ(lines[0].headingLevel, 0) << c.what;
-    EXPECT_EQ(lines[0].spans, c.spans) << c.what;
+// Lines as "#<level> " and spans, spans joined by "|" and marked "b:", "i:", "c:" or
+// "l(<target>):"; lines joined by " / ".
+std::wstring Describe(const std::vector<MarkupLine>& lines) {
+  std::wstring out;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    if (i > 0) out += L" / ";
+    if (lines[i].headingLevel > 0) out += L"#" + std::to_wstring(lines[i].headingLevel) + L" ";
+    for (size_t j = 0; j < lines[i].spans.size(); ++j) {
+      const MarkupSpan& span = lines[i].spans[j];
+      out += std::wstring(j > 0 ? L"|" : L"") + (span.bold ? L"b:" : L"") +
+             (span.italic ? L"i:" : L"") + (span.code ? L"c:" : L"") +
+             (span.link ? L"l(" + span.target + L"):" : L"") + span.text;
+    }
   }
+  return out;
 }
 
-TEST(InlineMarkup, HeadingsNeedOneToFourHashesAndABlank) {
-  struct Case {
-    const wchar_t* text;
-    int32_t level;
-    std::vector<MarkupSpan> spans;
-  };
-  const Case kCases[] = {
-      {L"# Title", 1, {Plain(L"Title")}},
-      {L"#### Four **b**", 4, {Plain(L"Four "), Bold(L"b")}},
-      {L"##### Five", 0, {Plain(L"##### Five")}},
-      {L"#tag", 0, {Plain(L"#tag")}},
-      {L"#", 0, {Plain(L"#")}},
-      {L" # indented", 0, {Plain(L" # indented")}},
-  };
-  for (const Case& c : kCases) {
-    const std::vector<MarkupLine> lines = parseInlineMarkup(c.text);
-    ASSERT_EQ(lines.size(), 1u);
-    EXPECT_EQ(lines[0].headingLevel, c.level) << c.text;
-    EXPECT_EQ(lines[0].spans, c.spans);
-  }
+TEST(InlineMarkup, ParsesSpansHeadingsAndLines) {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+      {L"plain text", L"plain text"},
+      {L"", L""},
+      {L"a **b** c", L"a |b:b| c"},
+      {L"a ** b", L"a ** b"},  // an unclosed mark is text, merged with the text around it
+      {L"x**", L"x**"},
+      {L"*it* x", L"i:it| x"},
+      {L"* not* x", L"* not* x"},  // a blank after the star: no italic
+      {L"2*3", L"2*3"},
+      {L"run `cmd /c` now", L"run |c:cmd /c| now"},
+      {L"`**x**`", L"c:**x**"},
+      {L"a `b", L"a `b"},
+      {L"see [docs](open:docs).", L"see |l(open:docs):docs|."},
+      {L"[x] y", L"[x] y"},
+      {L"[x](y", L"[x](y"},
+      {L"**B***I*", L"b:B|i:I"},
+      {L"# Title", L"#1 Title"},
+      {L"#### Four **b**", L"#4 Four |b:b"},
+      {L"##### Five", L"##### Five"},
+      {L"#tag", L"#tag"},
+      {L"#", L"#"},
+      {L" # indented", L" # indented"},
+      {L"## Head\r\n**a\nb**\n", L"#2 Head / **a / b** / "}};  // marks don't cross lines
+  for (const auto& [text, parsed] : cases)
+    EXPECT_EQ(Describe(parseInlineMarkup(text)), parsed) << text;
+  EXPECT_EQ(stripInlineMarkup(parseInlineMarkup(L"# T\nsee [docs](x) **now** `c` **")),
+            L"T\nsee docs now c **");
 }
 
-TEST(InlineMarkup, LinesSplitAtLineFeedsAndMarksDoNotCrossThem) {
-  const std::vector<MarkupLine> lines = parseInlineMarkup(L"## Head\r\n**a\nb**\n");
-  ASSERT_EQ(lines.size(), 4u);
-  EXPECT_EQ(lines[0].headingLevel, 2);
-  EXPECT_EQ(lines[0].spans, std::vector<MarkupSpan>{Plain(L"Head")});
-  EXPECT_EQ(lines[1].spans, std::vector<MarkupSpan>{Plain(L"**a")});
-  EXPECT_EQ(lines[2].spans, std::vector<MarkupSpan>{Plain(L"b**")});
-  EXPECT_TRUE(lines[3].spans.empty());
-}
-
-TEST(InlineMarkup, StrippingJoinsSpansAndLines) {
-  EXPECT_EQ(stripInlineMarkup(parseInlineMarkup(L"# T\nsee [docs](x) **now** `c`")),
-            L"T\nsee docs now c");
-  EXPECT_EQ(stripInlineMarkup(parseInlineMarkup(L"a ** b")), L"a ** b");
-}
-
-TEST(InlineMarkup, SpanStyles) {
+TEST(InlineMarkup, SpanStylesFollowTheLook) {
   TextStyle body;
   body.pointSize = 10;
   body.weight = 400;
   body.color = rgbColor(1, 2, 3);
-  const InlineMarkupLook look;
-  struct Case {
-    const char* what;
-    int32_t level;
-    MarkupSpan span;
-    int32_t pointSize, weight;
-    bool italic, underline;
-    const wchar_t* family;
-    Color color;
-  };
-  const Case kCases[] = {
-      {"body", 0, Plain(L"x"), 10, 400, false, false, L"Segoe UI", rgbColor(1, 2, 3)},
-      {"heading 1", 1, Plain(L"x"), 18, 700, false, false, L"Segoe UI", rgbColor(1, 2, 3)},
-      {"heading 2", 2, Plain(L"x"), 15, 700, false, false, L"Segoe UI", rgbColor(1, 2, 3)},
-      {"heading 3", 3, Plain(L"x"), 13, 700, false, false, L"Segoe UI", rgbColor(1, 2, 3)},
-      {"heading 4", 4, Plain(L"x"), 12, 700, false, false, L"Segoe UI", rgbColor(1, 2, 3)},
-      {"bold", 0, Bold(L"x"), 10, 700, false, false, L"Segoe UI", rgbColor(1, 2, 3)},
-      {"italic", 0, Italic(L"x"), 10, 400, true, false, L"Segoe UI", rgbColor(1, 2, 3)},
-      {"code", 0, Code(L"x"), 10, 400, false, false, L"Cascadia Mono", rgbColor(1, 2, 3)},
-      {"code in a heading keeps its weight", 1, Code(L"x"), 18, 400, false, false, L"Cascadia Mono",
-       rgbColor(1, 2, 3)},
-      {"link", 0, Link(L"x", L"t"), 10, 400, false, true, L"Segoe UI", look.linkColor},
-  };
-  for (const Case& c : kCases) {
-    const TextStyle style = markupSpanStyle(body, look, c.level, c.span);
-    EXPECT_EQ(style.pointSize, c.pointSize) << c.what;
-    EXPECT_EQ(style.weight, c.weight) << c.what;
-    EXPECT_EQ(style.italic, c.italic) << c.what;
-    EXPECT_EQ(style.underline, c.underline) << c.what;
-    EXPECT_EQ(style.fontFamily, c.family) << c.what;
-    EXPECT_EQ(style.color, c.color) << c.what;
-  }
+  InlineMarkupLook look;
+  look.headingIncrements[1] = 3;
+  look.headingWeight = 600;
+  look.codeFont = L"Mono";
+  look.codeWeight = 300;
+  MarkupSpan code(L"x"), link(L"x"), bold(L"x"), italic(L"x");
+  code.code = link.link = bold.bold = italic.italic = true;
+  const TextStyle heading = markupSpanStyle(body, look, 2, MarkupSpan(L"x"));
+  EXPECT_EQ(heading.pointSize, 13);
+  EXPECT_EQ(heading.weight, 600);
+  EXPECT_EQ(markupSpanStyle(body, look, 0, MarkupSpan(L"x")), body);
+  EXPECT_EQ(markupSpanStyle(body, look, 0, bold).weight, 700);
+  EXPECT_TRUE(markupSpanStyle(body, look, 0, italic).italic);
+  const TextStyle codeInHeading = markupSpanStyle(body, look, 2, code);
+  EXPECT_EQ(codeInHeading.fontFamily, L"Mono");
+  EXPECT_EQ(codeInHeading.weight, 300);
+  EXPECT_EQ(codeInHeading.pointSize, 13);
+  look.codePointSize = 7;
+  EXPECT_EQ(markupSpanStyle(body, look, 2, code).pointSize, 7);
+  const TextStyle linked = markupSpanStyle(body, look, 0, link);
+  EXPECT_TRUE(linked.underline);
+  EXPECT_EQ(linked.color, look.linkColor);
 }
 
 }  // namespace

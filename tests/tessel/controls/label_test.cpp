@@ -2,111 +2,61 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <memory>
-
 #include "tessel/skin/style_sheet.h"
 #include "tests/support/golden_image.h"
 #include "tests/tessel/controls/control_fixtures.h"
-#include "tests/tessel/core/test_controls.h"
 
 namespace tessel {
 namespace {
 
 constexpr Color kText = rgbColor(250, 250, 250);
 
-Image Paint(Label& label, Size size) {
-  Image image = Image::blank(size.width, size.height);
-  ImageCanvas canvas(image);
-  label.paint(canvas, Point{0, 0});
-  return image;
+Image Painted(const wchar_t* text, int32_t alignment = kAlignLeft, int32_t format = 1) {
+  Label label(L"l", Rect{0, 0, 100, 20}, text, PlainText(kText));
+  label.setAlignment(alignment);
+  label.setTextFormat(format);
+  return PaintedImage(label, {100, 20});
 }
 
-// The leftmost and rightmost columns holding text.
-std::pair<int, int> TextColumns(const Image& image) {
-  int left = image.width, right = -1;
-  for (int y = 0; y < image.height; ++y) {
-    for (int x = 0; x < image.width; ++x) {
-      if (PixelAt(image, x, y) == kText) {
-        left = std::min(left, x);
-        right = std::max(right, x);
-      }
-    }
-  }
-  return {left, right};
-}
-
-TEST(Label, IsStaticTextWithMarkupByDefault) {
-  Label label(L"l", Rect{0, 0, 100, 20}, L"A", PlainText(kText));
-  EXPECT_TRUE(label.isStaticText());
-  EXPECT_EQ(label.textFormat(), 1);
-}
-
-TEST(Label, AlignmentPlacesTheLine) {
+TEST(Label, AlignsTheLineAndPaintsMarkupWithoutItsMarks) {
   // "AB" is 11 pixels wide in the stand-in font.
-  struct Case {
-    int32_t alignment;
-    int left;
-    int right;
-  };
-  const Case kCases[] = {{kAlignLeft, 0, 10}, {kAlignCenter, 44, 54}, {kAlignRight, 89, 99}};
-  for (const Case& c : kCases) {
-    Label label(L"l", Rect{0, 0, 100, 20}, L"AB", PlainText(kText));
-    label.setAlignment(c.alignment);
-    const auto [left, right] = TextColumns(Paint(label, {100, 20}));
-    EXPECT_EQ(left, c.left) << c.alignment;
-    EXPECT_EQ(right, c.right) << c.alignment;
+  const std::pair<int32_t, int> cases[] = {{kAlignLeft, 0}, {kAlignCenter, 44}, {kAlignRight, 89}};
+  for (const auto& [alignment, left] : cases) {
+    const auto [first, last] = ColumnsOf(Painted(L"AB", alignment), kText);
+    EXPECT_EQ(first, left) << alignment;
+    EXPECT_EQ(last, left + 10) << alignment;
   }
+  // The stand-in font has no bold, so bold text paints as plain text does; as plain text the
+  // stars are drawn.
+  EXPECT_TRUE(CompareImages(Painted(L"**AB** CD"), Painted(L"AB CD"), "label", 0));
+  EXPECT_FALSE(CompareImages(Painted(L"**AB** CD", kAlignLeft, 0), Painted(L"AB CD"), "label", 0));
 }
 
-TEST(Label, WithoutTooltipOrClippedTextAClickFallsThrough) {
+TEST(Label, TakesThePointerOnlyWithATooltipOrClippedText) {
   Panel root(L"root", Rect{0, 0, 200, 100});
   Box* below = root.add<Box>(L"below", Rect{0, 0, 200, 100});
-  Label* label = root.add<Label>(L"label", Rect{10, 10, 100, 20}, L"HELLO", PlainText(kText));
-  EXPECT_EQ(root.hitTest(Point{20, 15}, Point{0, 0}), below);
-
+  Label* label = root.add<Label>(L"label", Rect{10, 10, 60, 40}, L"HELLO", PlainText(kText));
+  EXPECT_EQ(root.hitTest(Point{20, 15}, Point{}), below);
   label->setTooltip(L"more");
-  EXPECT_EQ(root.hitTest(Point{20, 15}, Point{0, 0}), label);
-
+  EXPECT_EQ(root.hitTest(Point{20, 15}, Point{}), label);
   label->setTooltip(L"");
-  label->setText(L"A TEXT MUCH TOO LONG FOR THE LABEL");
-  EXPECT_EQ(root.hitTest(Point{20, 15}, Point{0, 0}), label);
+  label->setText(L"**OK**\nA MUCH LONGER LINE");
+  EXPECT_EQ(label->clippedText(), L"OK\nA MUCH LONGER LINE");  // the plain text of it all
+  EXPECT_EQ(root.hitTest(Point{20, 15}, Point{}), label);
+  label->setText(L"**OK**\nFINE");
+  EXPECT_EQ(label->clippedText(), L"");
 }
 
-TEST(Label, ClippedTextIsThePlainTextOfAnyLineTooWide) {
-  Label label(L"l", Rect{0, 0, 60, 40}, L"**OK**\nA MUCH LONGER LINE", PlainText(kText));
-  EXPECT_EQ(label.clippedText(), L"OK\nA MUCH LONGER LINE");
-  label.setText(L"**OK**\nFINE");
-  EXPECT_EQ(label.clippedText(), L"");
-}
-
-TEST(Label, MarkupIsPaintedWithoutItsMarks) {
-  // The stand-in font has no bold, so bold text paints as plain text does.
-  Label marked(L"l", Rect{0, 0, 100, 20}, L"**AB** CD", PlainText(kText));
-  Label plain(L"l", Rect{0, 0, 100, 20}, L"AB CD", PlainText(kText));
-  EXPECT_TRUE(CompareImages(Paint(marked, {100, 20}), Paint(plain, {100, 20}), "label", 0));
-
-  // As plain text, the stars are drawn.
-  marked.setTextFormat(0);
-  EXPECT_FALSE(CompareImages(Paint(marked, {100, 20}), Paint(plain, {100, 20}), "label", 0));
-}
-
-TEST(Label, DisabledTextTakesTheDisabledColour) {
+TEST(Label, DisabledTextTakesTheDisabledColourAndASkinItsStyle) {
   Label label(L"l", Rect{0, 0, 100, 20}, L"AB", PlainText(kText));
   label.setEnabled(false);
-  const Image image = Paint(label, {100, 20});
+  const Image image = PaintedImage(label, {100, 20});
   EXPECT_EQ(CountColor(image, kText), 0);
   EXPECT_GT(CountColor(image, kText ^ 0x00FFFFFFu), 0);
-}
-
-TEST(Label, ApplySkinTakesTheSheetsTextStyle) {
   const StyleSheet sheet{Theme{}};
-  Label label(L"l", Rect{0, 0, 100, 20}, L"AB", PlainText(kText));
-  label.setStyleId(L"missing");
-  EXPECT_FALSE(label.applySkin(sheet));
+  EXPECT_FALSE(applyStyleId(sheet, label, L"missing"));
   EXPECT_EQ(label.style().color, kText);
-  label.setStyleId(L"muted");
-  EXPECT_TRUE(label.applySkin(sheet));
+  EXPECT_TRUE(applyStyleId(sheet, label, L"muted"));
   EXPECT_EQ(label.style(), sheet.text.get(L"muted"));
 }
 

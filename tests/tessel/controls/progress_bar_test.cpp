@@ -3,133 +3,81 @@
 #include <gtest/gtest.h>
 
 #include "tests/tessel/controls/control_fixtures.h"
-#include "tests/tessel/core/test_controls.h"
 
 namespace tessel {
 namespace {
 
-constexpr Color kFrame = rgbColor(10, 10, 10);
 constexpr Color kTrack = rgbColor(20, 20, 20);
 constexpr Color kFill = rgbColor(0, 160, 0);
 
-ProgressBarStyle FlatStyle() {
+// Insets 3 and 3, label padding 8.
+ProgressBarStyle FlatStyle(int32_t labelWidth = 48) {
   ProgressBarStyle style;
-  style.frame = FlatSurface(kFrame);
+  style.frame = FlatSurface(rgbColor(10, 10, 10));
   style.track = FlatSurface(kTrack);
   style.fill = FlatSurface(kFill);
   style.labelText = PlainText(rgbColor(250, 250, 250));
+  style.labelWidth = labelWidth;
   return style;
 }
 
 TEST(ProgressBar, LayoutOfTrackFillAndLabelColumn) {
   struct Case {
-    const char* what;
     int32_t labelWidth;
     Rect frame;
     int32_t value;
     bool showText;
-    ProgressBarLayout layout;
+    Rect track, fill, label;
   };
-  // Insets 3 and 3, label padding 8.
-  const Case kCases[] = {
-      {"label width given",
-       48,
-       {0, 0, 206, 24},
-       50,
-       true,
-       {{3, 3, 152, 18}, {3, 3, 76, 18}, {155, 3, 40, 18}}},
-      {"no text, no column", 48, {0, 0, 206, 24}, 25, false, {{3, 3, 200, 18}, {3, 3, 50, 18}, {}}},
-      {"column from a third of the track height",
-       0,
-       {0, 0, 206, 24},
-       100,
-       true,
-       {{3, 3, 194, 18}, {3, 3, 194, 18}, {197, 3, -2, 18}}},
-      {"column capped at half the track",
-       48,
-       {0, 0, 46, 24},
-       100,
-       true,
-       {{3, 3, 20, 18}, {3, 3, 20, 18}, {23, 3, 12, 18}}},
-      {"zero paints no fill",
-       48,
-       {0, 0, 206, 24},
-       0,
-       true,
-       {{3, 3, 152, 18}, {}, {155, 3, 40, 18}}},
-      {"beyond 100 fills the track",
-       48,
-       {10, 10, 206, 24},
-       140,
-       true,
-       {{13, 13, 152, 18}, {13, 13, 152, 18}, {165, 13, 40, 18}}},
-  };
-  for (const Case& c : kCases) {
-    ProgressBarStyle style = FlatStyle();
-    style.labelWidth = c.labelWidth;
-    const ProgressBarLayout layout = progressBarLayout(style, c.frame, c.value, c.showText);
-    EXPECT_EQ(layout.track, c.layout.track) << c.what;
-    EXPECT_EQ(layout.fill, c.layout.fill) << c.what;
-    EXPECT_EQ(layout.label, c.layout.label) << c.what;
+  const Case cases[] = {
+      {48, {0, 0, 206, 24}, 50, true, {3, 3, 152, 18}, {3, 3, 76, 18}, {155, 3, 40, 18}},
+      {48, {0, 0, 206, 24}, 25, false, {3, 3, 200, 18}, {3, 3, 50, 18}, {}},  // no text, no column
+      // Without a width the column is a third of the track's height; at most half the track.
+      {0, {0, 0, 206, 24}, 100, true, {3, 3, 194, 18}, {3, 3, 194, 18}, {197, 3, -2, 18}},
+      {48, {0, 0, 46, 24}, 100, true, {3, 3, 20, 18}, {3, 3, 20, 18}, {23, 3, 12, 18}},
+      {48, {0, 0, 206, 24}, 0, true, {3, 3, 152, 18}, {}, {155, 3, 40, 18}},
+      {48, {10, 10, 206, 24}, 140, true, {13, 13, 152, 18}, {13, 13, 152, 18}, {165, 13, 40, 18}}};
+  for (const Case& c : cases) {
+    const ProgressBarLayout layout =
+        progressBarLayout(FlatStyle(c.labelWidth), c.frame, c.value, c.showText);
+    EXPECT_EQ(layout.track, c.track) << c.value;
+    EXPECT_EQ(layout.fill, c.fill) << c.value;
+    EXPECT_EQ(layout.label, c.label) << c.value;
   }
 }
 
-TEST(ProgressBar, AtZeroNoFillIsPainted) {
+TEST(ProgressBar, PaintsTheFillOnlyFromOneColumnUp) {
   ProgressBar bar(L"p", Rect{0, 0, 120, 20}, FlatStyle());
-  Image image = Image::blank(120, 20);
-  {
-    ImageCanvas canvas(image);
-    bar.paint(canvas, Point{0, 0});
+  // 1 % of a 66 pixel track is nothing; 50 % is 33 columns.
+  const std::pair<int32_t, int> cases[] = {{0, 0}, {1, 0}, {50, 33 * 14}};
+  for (const auto& [value, pixels] : cases) {
+    bar.setValue(value);
+    const Image image = PaintedImage(bar, {120, 20});
+    EXPECT_EQ(CountColor(image, kFill), pixels) << value;
+    EXPECT_EQ(PixelAt(image, 60, 10), kTrack) << value;
   }
-  EXPECT_EQ(CountColor(image, kFill), 0);
-  EXPECT_EQ(PixelAt(image, 5, 10), kTrack);
-
-  bar.setValue(1);
-  {
-    ImageCanvas canvas(image);
-    bar.paint(canvas, Point{0, 0});
-  }
-  // 1 % of a 66 pixel track is nothing either; 2 % is one column.
-  EXPECT_EQ(CountColor(image, kFill), 0);
-  bar.setValue(50);
-  {
-    ImageCanvas canvas(image);
-    bar.paint(canvas, Point{0, 0});
-  }
-  EXPECT_EQ(CountColor(image, kFill), 33 * 14);
 }
 
-TEST(ProgressBar, ValueRestoredFromStateIsClamped) {
-  struct Case {
-    const wchar_t* text;
-    int32_t value;
-  };
-  const Case kCases[] = {{L"42", 42}, {L"150", 100}, {L"-5", 0}, {L"abc", 7}, {L"", 7}};
-  for (const Case& c : kCases) {
-    ProgressBar bar(L"p", Rect{0, 0, 120, 20}, FlatStyle());
+TEST(ProgressBar, ValueRestoredFromStateIsClampedAndTheLabelClips) {
+  const std::pair<const wchar_t*, int32_t> cases[] = {
+      {L"42", 42}, {L"150", 100}, {L"-5", 0}, {L"abc", 7}, {L"", 7}};
+  for (const auto& [text, value] : cases) {
+    ProgressBar bar(L"p", Rect{0, 0, 206, 24}, FlatStyle());
     bar.setValue(7);
-    bar.applyExtraState({L"value", c.text});
-    EXPECT_EQ(bar.value(), c.value) << c.text;
+    bar.applyExtraState({L"value", text});
+    EXPECT_EQ(bar.value(), value) << text;
   }
-  ProgressBar bar(L"p", Rect{0, 0, 120, 20}, FlatStyle());
-  bar.setValue(64);
+  ProgressBar bar(L"p", Rect{0, 0, 206, 24}, FlatStyle(20));
+  bar.setValue(100);
   ControlState state;
   bar.captureState(state);
-  ASSERT_NE(state.value(L"value"), nullptr);
-  EXPECT_EQ(*state.value(L"value"), L"64");
-}
-
-TEST(ProgressBar, LabelIsClippedWhenItsColumnIsTooNarrow) {
-  ProgressBar wide(L"p", Rect{0, 0, 206, 24}, FlatStyle());
-  wide.setValue(100);
-  EXPECT_EQ(wide.clippedText(), L"");
-  ProgressBarStyle narrowStyle = FlatStyle();
-  narrowStyle.labelWidth = 20;
-  ProgressBar narrow(L"p", Rect{0, 0, 206, 24}, narrowStyle);
-  narrow.setValue(100);
-  EXPECT_EQ(narrow.clippedText(), L"100%");
-  narrow.setShowText(false);
-  EXPECT_EQ(narrow.clippedText(), L"");
+  EXPECT_EQ(state.values, (std::vector<StateValue>{{L"value", L"100"}}));
+  EXPECT_EQ(bar.clippedText(), L"100%");
+  bar.setShowText(false);
+  EXPECT_EQ(bar.clippedText(), L"");
+  bar.setStyle(FlatStyle());
+  bar.setShowText(true);
+  EXPECT_EQ(bar.clippedText(), L"");
 }
 
 }  // namespace

@@ -2,50 +2,34 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/tessel/core/test_controls.h"
+
 namespace tessel {
 namespace {
 
-class DestroyRecorder : public WindowPlatform {
- public:
-  void invalidate(const Rect&) override {}
-  void invalidateAll() override {}
-  void setCapture() override {}
-  void releaseCapture() override {}
-  void trackPointerLeave() override {}
-  uint64_t tickMs() const override { return 0; }
-  bool buttonHeld() const override { return false; }
-  void postClose() override {}
-  void setRegion(const std::vector<Rect>&, bool) override {}
-  // As the system does: destroying the window tells the window so.
-  void destroy() override {
-    ++destroys;
-    if (dialog != nullptr) dialog->destroying();
-  }
-  DialogWindow* dialog = nullptr;
-  int destroys = 0;
-};
-
-TEST(DialogWindow, EndDialogKeepsItsResultAndDestroysTheWindow) {
+TEST(DialogWindow, EndsWithItsResultOrWithFiveWhenDestroyedWithoutOne) {
   DialogWindow dialog;
-  DestroyRecorder platform;
-  platform.dialog = &dialog;
+  RecordingPlatform platform;
+  int destroys = 0;
+  platform.onDestroy = [&] {
+    ++destroys;
+    dialog.destroying();  // as the system tells the window
+  };
   dialog.setPlatform(&platform);
   dialog.started();
-  EXPECT_FALSE(dialog.finished());
   dialog.endDialog(3);
   EXPECT_TRUE(dialog.finished());
   EXPECT_EQ(dialog.result(), 3);
-  EXPECT_EQ(platform.destroys, 1);
+  EXPECT_EQ(destroys, 1);
   dialog.setPlatform(nullptr);
-}
 
-TEST(DialogWindow, DestroyedWithoutAResultEndsWithFive) {
-  DialogWindow dialog;
-  dialog.started();
-  EXPECT_EQ(dialog.result(), kNoDialogResult);
-  dialog.destroying();
-  EXPECT_TRUE(dialog.finished());
-  EXPECT_EQ(dialog.result(), kDialogDestroyed);
+  DialogWindow closed;
+  closed.started();
+  EXPECT_EQ(closed.result(), kNoDialogResult);
+  EXPECT_FALSE(closed.finished());
+  closed.destroying();
+  EXPECT_TRUE(closed.finished());
+  EXPECT_EQ(closed.result(), kDialogDestroyed);
 }
 
 }  // namespace

@@ -10,14 +10,10 @@
 namespace tessel {
 namespace {
 
-class ActionBox : public Control {
- public:
-  ActionBox(std::wstring id, Rect bounds, std::function<void()> action)
-      : Control(std::move(id), bounds), action_(std::move(action)) {}
-  void clicked() override { action_(); }
-
- private:
-  std::function<void()> action_;
+struct ActionBox : Control {
+  ActionBox(Rect bounds, std::function<void()> action) : Control(L"box", bounds), action(action) {}
+  void clicked() override { action(); }
+  std::function<void()> action;
 };
 
 NativeWindowOptions Options(HWND owner) {
@@ -57,7 +53,7 @@ TEST(DialogWin32, AClickEndsTheDialogFromInsideItsDispatch) {
   Owner owner;
   DialogWindow dialog;
   bool ownerDisabledMeanwhile = false;
-  dialog.rootPanel().add<ActionBox>(L"ok", Rect{20, 20, 80, 30}, [&] {
+  dialog.rootPanel().add<ActionBox>(Rect{20, 20, 80, 30}, [&] {
     ownerDisabledMeanwhile = !IsWindowEnabled(owner.native.hwnd());
     dialog.endDialog(7);
   });
@@ -75,7 +71,7 @@ TEST(DialogWin32, QuitEndsEveryNestedLoop) {
   DialogWindow outer;
   DialogResult innerResult = -1;
   Win32WindowPlatform outerNative(outer);
-  outer.rootPanel().add<ActionBox>(L"open", Rect{20, 20, 80, 30}, [&] {
+  outer.rootPanel().add<ActionBox>(Rect{20, 20, 80, 30}, [&] {
     DialogWindow inner;
     Win32WindowPlatform innerNative(inner);
     ASSERT_TRUE(createDialog(inner, innerNative, Options(outerNative.hwnd())));

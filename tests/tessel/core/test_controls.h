@@ -1,33 +1,56 @@
-// Small controls for toolkit tests: a window host that records what is asked of it, and a box
-// that paints a solid colour and counts the calls it gets.
+// Small stand-ins for toolkit tests: a window host and a window platform that record what is
+// asked of them, a box that paints a solid colour and counts the calls it gets, a panel with a
+// shaped content, and pixel reading.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "tessel/core/panel.h"
 #include "tessel/core/window_host.h"
+#include "tessel/core/window_platform.h"
 #include "tessel/paint/image_canvas.h"
 
 namespace tessel {
 
 class RecordingHost : public WindowHost {
  public:
-  explicit RecordingHost(Control* root = nullptr, Size client = {400, 300})
-      : root_(root), client_(client) {}
+  explicit RecordingHost(Control* root = nullptr) : root_(root) {}
   void invalidateRect(const Rect& rect) override { rects.push_back(rect); }
   void invalidateAll() override { ++wholeWindow; }
-  void updateRegion() override { ++regionUpdates; }
-  Size clientSize() const override { return client_; }
+  void updateRegion() override {}
+  Size clientSize() const override { return Size{400, 300}; }
   Control* rootControl() override { return root_; }
-  void setRoot(Control* root) { root_ = root; }
 
   std::vector<Rect> rects;
   int wholeWindow = 0;
-  int regionUpdates = 0;
 
  private:
   Control* root_;
-  Size client_;
+};
+
+class RecordingPlatform : public WindowPlatform {
+ public:
+  void invalidate(const Rect&) override {}
+  void invalidateAll() override { ++whole; }
+  void setCapture() override { ++captures; }
+  void releaseCapture() override { ++releases; }
+  void trackPointerLeave() override { ++leaveRequests; }
+  uint64_t tickMs() const override { return clock; }
+  bool buttonHeld() const override { return held; }
+  void postClose() override {}
+  void destroy() override { onDestroy(); }
+  void setRegion(const std::vector<Rect>& rects, bool shaped) override {
+    region = rects;
+    hasRegion = shaped;
+  }
+
+  int whole = 0, captures = 0, releases = 0, leaveRequests = 0;
+  uint64_t clock = 1000;
+  bool held = false;
+  std::vector<Rect> region;
+  bool hasRegion = false;
+  std::function<void()> onDestroy = [] {};
 };
 
 class Box : public Control {
@@ -42,7 +65,7 @@ class Box : public Control {
   void layoutChildren() override { ++layouts; }
   bool tick() override {
     ++ticks;
-    return wantsTick;
+    return true;
   }
   void captureExtraState(ControlState& state) const override {
     state.setValue(L"color", std::to_wstring(color));
@@ -53,11 +76,7 @@ class Box : public Control {
   bool applySkin(const StyleSheet&) override { return ++skins > 0; }
 
   Color color;
-  int paints = 0;
-  int layouts = 0;
-  int ticks = 0;
-  int skins = 0;
-  bool wantsTick = false;
+  int paints = 0, layouts = 0, ticks = 0, skins = 0;
 };
 
 // A panel whose content may be shaped, as a skin's outline shapes it.
@@ -73,6 +92,14 @@ class ShapedPanel : public Panel {
 inline Color PixelAt(const Image& image, int x, int y) {
   const uint8_t* p = image.pixel(x, y);
   return rgbColor(p[2], p[1], p[0]);
+}
+
+// A control painted alone at the origin of a blank image.
+inline Image PaintedImage(Control& control, Size size) {
+  Image image = Image::blank(size.width, size.height);
+  ImageCanvas canvas(image);
+  control.paint(canvas, Point{});
+  return image;
 }
 
 }  // namespace tessel

@@ -5,84 +5,49 @@
 namespace tessel {
 namespace {
 
-struct HitCase {
-  const char* what;
-  Point point;
-  int32_t thickness;
-  bool customFrame, zoomed;
-  int32_t expected;
-};
-
 TEST(FrameHitTest, CornersWinThenEdgesThenClient) {
-  const Size client{200, 100};
-  const HitCase cases[] = {
-      {"top-left corner", {0, 0}, 6, true, false, kHitTopLeft},
-      {"top-right corner", {199, 5}, 6, true, false, kHitTopRight},
-      {"bottom-left corner", {5, 94}, 6, true, false, kHitBottomLeft},
-      {"bottom-right corner", {194, 99}, 6, true, false, kHitBottomRight},
-      {"top edge", {100, 5}, 6, true, false, kHitTop},
-      {"bottom edge", {100, 94}, 6, true, false, kHitBottom},
-      {"left edge", {5, 50}, 6, true, false, kHitLeft},
-      {"right edge", {194, 50}, 6, true, false, kHitRight},
-      {"just inside the border", {6, 6}, 6, true, false, kHitClient},
-      {"outside the client", {-1, 50}, 6, true, false, kHitClient},
-      {"no custom frame", {0, 0}, 6, false, false, kHitClient},
-      {"zoomed", {0, 0}, 6, true, true, kHitClient},
-      {"thickness zero", {0, 0}, 0, true, false, kHitClient},
-      {"thickness one", {0, 50}, 1, true, false, kHitLeft},
-  };
-  for (const HitCase& c : cases)
-    EXPECT_EQ(frameHitTest(c.point, client, c.thickness, c.customFrame, c.zoomed), c.expected)
-        << c.what;
+  // A 200 x 100 client with a border of 6, probed on each part and just beside it.
+  const Point points[] = {{0, 0},    {199, 5}, {5, 94},   {194, 99}, {100, 5},
+                          {100, 94}, {5, 50},  {194, 50}, {6, 6},    {-1, 50}};
+  const int32_t hits[] = {kHitTopLeft, kHitTopRight, kHitBottomLeft, kHitBottomRight, kHitTop,
+                          kHitBottom,  kHitLeft,     kHitRight,      kHitClient,      kHitClient};
+  for (size_t i = 0; i < std::size(points); ++i)
+    EXPECT_EQ(frameHitTest(points[i], Size{200, 100}, 6, true, false), hits[i]) << i;
+  EXPECT_EQ(frameHitTest(Point{0, 0}, Size{200, 100}, 6, false, false), kHitClient);  // no frame
+  EXPECT_EQ(frameHitTest(Point{0, 0}, Size{200, 100}, 6, true, true), kHitClient);    // zoomed
+  EXPECT_EQ(frameHitTest(Point{0, 0}, Size{200, 100}, 0, true, false), kHitClient);
+  EXPECT_EQ(frameHitTest(Point{0, 50}, Size{200, 100}, 1, true, false), kHitLeft);
 }
 
-TEST(WindowPlacement, CentredAndKeptInsideTheWorkArea) {
+TEST(WindowPlacement, CentredOnTheOwnerOrTheWorkAreaAndKeptInsideIt) {
   const Rect work{1920, 40, 1280, 984};  // a second monitor below a top task bar
-  EXPECT_EQ(centreOnWorkArea(Size{400, 300}, work), (Rect{1920 + 440, 40 + 342, 400, 300}));
-  // Larger than the work area: kept at its top-left, size unchanged.
+  EXPECT_EQ(centreOnWorkArea(Size{400, 300}, work), (Rect{2360, 382, 400, 300}));
   EXPECT_EQ(centreOnWorkArea(Size{1500, 1200}, work), (Rect{1920, 40, 1500, 1200}));
   EXPECT_EQ(keepInsideWorkArea(Rect{3100, 900, 300, 200}, work), (Rect{2900, 824, 300, 200}));
-  EXPECT_EQ(keepInsideWorkArea(Rect{1800, 0, 300, 200}, work), (Rect{1920, 40, 300, 200}));
+  const Rect owner{2020, 140, 600, 400};
+  EXPECT_EQ(centreOnOwner(Size{200, 100}, &owner, work), (Rect{2220, 290, 200, 100}));
+  EXPECT_EQ(centreOnOwner(Size{200, 100}, nullptr, work), (Rect{2460, 482, 200, 100}));
 }
 
-TEST(WindowPlacement, DialogsCentreOnTheirOwner) {
-  const Rect work{0, 0, 1280, 760};
-  const Rect owner{100, 100, 600, 400};
-  EXPECT_EQ(centreOnOwner(Size{200, 100}, &owner, work), (Rect{300, 250, 200, 100}));
-  EXPECT_EQ(centreOnOwner(Size{200, 100}, nullptr, work), (Rect{540, 330, 200, 100}));
-  // An owner near the edge: the dialog stays on the work area.
-  const Rect corner{1100, 650, 200, 150};
-  EXPECT_EQ(centreOnOwner(Size{400, 300}, &corner, work), (Rect{880, 460, 400, 300}));
-}
-
-TEST(MinimumSize, ConfiguredRaisedByContentOnlyWhenAutomatic) {
+TEST(MinimumSize, ContentRaisesItWhenAutomaticAndTheDraggedEdgeStops) {
   EXPECT_EQ(effectiveMinimumClientSize({300, 0}, {420, 180}, true), (Size{420, 180}));
   EXPECT_EQ(effectiveMinimumClientSize({300, 0}, {420, 180}, false), (Size{300, 0}));
   EXPECT_EQ(effectiveMinimumClientSize({-5, 0}, {0, -3}, true), (Size{0, 0}));
+  // Against a minimum of 300 x 200 the dragged edges stop and the opposite ones stay.
+  const std::pair<int32_t, Rect> cases[] = {
+      {kSizeLeft, {100, 100, 300, 300}},   {kSizeRight, {150, 100, 300, 300}},
+      {kSizeTopLeft, {100, 50, 300, 200}}, {kSizeTopRight, {150, 50, 300, 200}},
+      {kSizeTop, {150, 50, 300, 200}},     {kSizeBottomLeft, {100, 100, 300, 200}},
+      {kSizeBottom, {150, 100, 300, 200}}};
+  for (const auto& [edge, held] : cases) {
+    const Rect proposed{150, 100, 250, edge == kSizeLeft || edge == kSizeRight ? 300 : 150};
+    EXPECT_EQ(holdMinimumWhileSizing(proposed, edge, Size{300, 200}), held) << edge;
+  }
+  EXPECT_EQ(holdMinimumWhileSizing(Rect{0, 0, 300, 200}, kSizeTopLeft, Size{300, 200}),
+            (Rect{0, 0, 300, 200}));
 }
 
-struct SizingCase {
-  const char* what;
-  int32_t edge;
-  Rect proposed, held;
-};
-
-TEST(MinimumSize, TheDraggedEdgeStopsAndTheOppositeStays) {
-  const Size minimum{300, 200};
-  const SizingCase cases[] = {
-      {"left", kSizeLeft, {150, 100, 250, 300}, {100, 100, 300, 300}},
-      {"right", kSizeRight, {100, 100, 250, 300}, {100, 100, 300, 300}},
-      {"top-left", kSizeTopLeft, {150, 150, 250, 150}, {100, 100, 300, 200}},
-      {"top-right", kSizeTopRight, {100, 150, 250, 150}, {100, 100, 300, 200}},
-      {"bottom-left", kSizeBottomLeft, {150, 100, 250, 150}, {100, 100, 300, 200}},
-      {"bottom", kSizeBottom, {100, 100, 400, 150}, {100, 100, 400, 200}},
-      {"large enough", kSizeBottomRight, {0, 0, 500, 400}, {0, 0, 500, 400}},
-  };
-  for (const SizingCase& c : cases)
-    EXPECT_EQ(holdMinimumWhileSizing(c.proposed, c.edge, minimum), c.held) << c.what;
-}
-
-TEST(WindowLimits, WorkAreaOfTheMonitorCapsTheMinimum) {
+TEST(WindowLimits, TheMonitorsWorkAreaCapsTheMinimum) {
   const WindowLimits defaults{{1, 1}, {0, 0}, {120, 40}, {800, 600}};
   // A small second monitor with the task bar on its left.
   const Rect monitor{-1024, 0, 1024, 768};
@@ -91,8 +56,7 @@ TEST(WindowLimits, WorkAreaOfTheMonitorCapsTheMinimum) {
   EXPECT_EQ(limits.maxSize, (Size{984, 768}));
   EXPECT_EQ(limits.maxPosition, (Point{40, 0}));
   EXPECT_EQ(limits.maxTrackSize, (Size{984, 768}));
-  EXPECT_EQ(limits.minTrackSize, (Size{984, 300}));  // capped by the work area
-  // No minimum of its own: the system's defaults stay.
+  EXPECT_EQ(limits.minTrackSize, (Size{984, 300}));
   EXPECT_EQ(windowLimits(defaults, monitor, work, Size{}).minTrackSize, (Size{120, 40}));
 }
 
