@@ -28,8 +28,13 @@ std::wstring ValueOr(const wchar_t* section, const wchar_t* key, const wchar_t* 
 // Words of a text split at `separator`, empty words kept.
 std::vector<std::wstring> Split(const std::wstring& text, wchar_t separator = L' ') {
   std::vector<std::wstring> words(1);
-  for (wchar_t c : text)
-    c == separator ? words.emplace_back() : words.back().push_back(c);
+  for (wchar_t c : text) {
+    if (c == separator) {
+      words.emplace_back();
+    } else {
+      words.back().push_back(c);
+    }
+  }
   return words;
 }
 
@@ -407,7 +412,9 @@ TEST(UiState, ReadRules) {
     MemoryStore().Put(Path(), file);
     const std::optional<WindowUiState> state = ReadUiState(MemoryStore(), Path());
     EXPECT_EQ(state.has_value(), c.present) << c.what;
-    if (state) EXPECT_EQ(state->controls.size(), c.kept) << c.what;
+    if (state) {
+      EXPECT_EQ(state->controls.size(), c.kept) << c.what;
+    }
   }
 }
 

@@ -85,7 +85,8 @@ TEST(LocalizedChangeNote, CzechEnglishThenNeutral) {
 }
 
 TEST(BuildChangeNotesSinceInstalled, NewestFirstBetweenInstalledAndLatest) {
-  UpdateManifest m{.version = L"1.0.130"};
+  UpdateManifest m;
+  m.version = L"1.0.130";
   m.changes = L"top";
   m.history = {{L"1.0.100", L"too old", L"", L""}, {L"1.0.112", L"installed", L"", L""},
                {L"1.0.120", L"middle", L"", L""},  {L"1.0.140", L"beyond latest", L"", L""},

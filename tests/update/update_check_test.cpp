@@ -33,9 +33,12 @@ TEST(UpdateCheckState, OneCheckAtATimeAndAOneDeepSlot) {
   }
   ASSERT_TRUE(BeginUpdateCheck());
   EXPECT_FALSE(BeginUpdateCheck());
-  StorePendingUpdateResult(UpdateCheckResult{.error = L"first"}, false);
+  UpdateCheckResult result;
+  result.error = L"first";
+  StorePendingUpdateResult(result, false);
   EXPECT_TRUE(UpdateCheckRunning());  // a refresh does not end a running check
-  StorePendingUpdateResult(UpdateCheckResult{.error = L"second"}, true);
+  result.error = L"second";
+  StorePendingUpdateResult(result, true);
   EXPECT_FALSE(UpdateCheckRunning());
   const std::optional<UpdateCheckResult> taken = TakePendingUpdateResult();
   ASSERT_TRUE(taken);

@@ -11,7 +11,7 @@ const wchar_t kRunning[] =
 
 UpdateManifest Manifest(const wchar_t* version, const wchar_t* sha256,
                         const wchar_t* setup_url = L"https://h/StayholdSetup.exe") {
-  return UpdateManifest{.version = version, .setup_url = setup_url, .sha256 = sha256};
+  return UpdateManifest{version, L"", setup_url, sha256, L"", L"", L"", {}};
 }
 
 // Services with scripted answers that record what the worker did.

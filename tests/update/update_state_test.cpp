@@ -7,7 +7,8 @@
 TEST(AvailableUpdate, StoresCopiesAndClears) {
   StoreAvailableUpdate(std::nullopt);
   EXPECT_FALSE(GetAvailableUpdate().has_value());
-  UpdateManifest manifest{.version = L"1.0.200"};
+  UpdateManifest manifest;
+  manifest.version = L"1.0.200";
   StoreAvailableUpdate(manifest);
   manifest.version = L"changed after storing";
   EXPECT_EQ(GetAvailableUpdate().value().version, L"1.0.200");
@@ -18,8 +19,9 @@ TEST(AvailableUpdate, StoresCopiesAndClears) {
 TEST(AvailableUpdate, WriterAndReaderThreadsSeeWholeRecords) {
   std::thread writer([] {
     for (int i = 0; i < 2000; ++i) {
-      const std::wstring text(40, i % 2 ? L'a' : L'b');
-      StoreAvailableUpdate(UpdateManifest{.version = text, .sha256 = text});
+      UpdateManifest manifest;
+      manifest.version = manifest.sha256 = std::wstring(40, i % 2 ? L'a' : L'b');
+      StoreAvailableUpdate(manifest);
     }
   });
   bool torn = false;

@@ -109,7 +109,9 @@ void WaitForSetupRecord() {
 class RecordingServices final : public UpdateInstallServices {
  public:
   explicit RecordingServices(const wchar_t* manifest) : real_(nullptr, Http(manifest)) {
-    RunStayholdAutoUpdate(*this, state, UpdateManifest{.version = L"1.0.999"});
+    UpdateManifest cached;
+    cached.version = L"1.0.999";
+    RunStayholdAutoUpdate(*this, state, cached);
   }
   std::shared_ptr<UpdateInstallState> state = std::make_shared<UpdateInstallState>();
   std::vector<int> progress;
