@@ -58,35 +58,31 @@ bool operator==(const RestartWindow& a, const RestartWindow& b) {
 
 TEST(ParseWindowValue, ScansFourNumbersAndClamps) {
   const RestartWindow fallback{true, 0, 780, 1020};
-  const struct {
-    const wchar_t* text;
-    RestartWindow window;
-  } cases[] = {{L"1,4,780,1020", {true, 4, 780, 1020}},
-               {L"0,6,1380,60", {false, 6, 1380, 60}},
-               {L"7,9,9999,-5", {true, 6, 1439, 0}},
-               {L"-1,-3,-10,2000", {true, 0, 0, 1439}},
-               {L" 1, 2, 3, 4", {true, 2, 3, 4}},  // %d skips white space before a number
-               {L"1 ,2,3,4", fallback},            // but a comma must follow at once
-               {L"1,2,3,4 trailing text", {true, 2, 3, 4}},
-               {L"1,2,3", fallback},
-               {L"", fallback},
-               {L"1,2,x,4", fallback},
-               {L"+1,+2,+3,+4", {true, 2, 3, 4}},
-               {L"0,1,99999999999999,5", {false, 1, 1439, 5}}};
-  for (const auto& c : cases)
-    EXPECT_TRUE(ParseWindowValue(c.text) == c.window) << c.text;
+  const std::pair<const wchar_t*, RestartWindow> cases[] = {
+      {L"1,4,780,1020", {true, 4, 780, 1020}},
+      {L"0,6,1380,60", {false, 6, 1380, 60}},
+      {L"7,9,9999,-5", {true, 6, 1439, 0}},
+      {L"-1,-3,-10,2000", {true, 0, 0, 1439}},
+      {L" 1, 2, 3, 4", {true, 2, 3, 4}},  // %d skips white space before a number
+      {L"1 ,2,3,4", fallback},            // but a comma must follow at once
+      {L"1,2,3,4 trailing text", {true, 2, 3, 4}},
+      {L"1,2,3", fallback},
+      {L"", fallback},
+      {L"1,2,x,4", fallback},
+      {L"+1,+2,+3,+4", {true, 2, 3, 4}},
+      {L"0,1,99999999999999,5", {false, 1, 1439, 5}}};
+  for (const auto& [text, window] : cases)
+    EXPECT_TRUE(ParseWindowValue(text) == window) << text;
 }
 
 TEST(NormalizeUiPerformanceProfile, MapsTheSpellingsAfterTrimmingAndLowering) {
-  const struct {
-    const wchar_t *in, *out;
-  } cases[] = {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
       {L" Best_Graphics ", L"best-graphics"},   {L"MAX_DETAILS", L"best-graphics"},
       {L"max-detaily", L"best-graphics"},       {L"max_performance", L"maximum-performance"},
       {L"Performance", L"maximum-performance"}, {L"", L"balanced"},
       {L"best graphics", L"balanced"}};
-  for (const auto& c : cases)
-    EXPECT_EQ(NormalizeUiPerformanceProfile(c.in), c.out) << c.in;
+  for (const auto& [in, out] : cases)
+    EXPECT_EQ(NormalizeUiPerformanceProfile(in), out) << in;
 }
 
 TEST(NormalizeConfig, RepairsEveryField) {
@@ -114,19 +110,16 @@ TEST(NormalizeConfig, RepairsEveryField) {
 }
 
 TEST(NormalizeConfig, SkinIdResolvesAmongTheOfferedSkins) {
-  const struct {
-    const char* what;
-    std::vector<tessel::SkinDefinition> skins;
-    const wchar_t *stored, *normal;
-  } cases[] = {
-      {"an offered skin in its own spelling", Skins({L"classic", L"Custom-Skin"}), L" custom-SKIN ",
-       L"Custom-Skin"},
-      {"a skin that is gone", Skins({L"classic", L"win11-auto"}), L"custom-skin", L"win11-auto"},
-      {"nothing offered", {}, L"classic", L"win11-auto"}};
-  for (const auto& c : cases) {
+  const std::tuple<const char*, std::vector<tessel::SkinDefinition>, const wchar_t*, const wchar_t*>
+      cases[] = {{"an offered skin in its own spelling", Skins({L"classic", L"Custom-Skin"}),
+                  L" custom-SKIN ", L"Custom-Skin"},
+                 {"a skin that is gone", Skins({L"classic", L"win11-auto"}), L"custom-skin",
+                  L"win11-auto"},
+                 {"nothing offered", {}, L"classic", L"win11-auto"}};
+  for (const auto& [what, skins, stored, normal] : cases) {
     StayholdConfig config;
-    config.skin_id = c.stored;
-    EXPECT_EQ(NormalizeConfig(config, c.skins).skin_id, c.normal) << c.what;
+    config.skin_id = stored;
+    EXPECT_EQ(NormalizeConfig(config, skins).skin_id, normal) << what;
   }
 }
 
@@ -181,20 +174,18 @@ TEST(LoadConfig, LegacyLayoutIsMigratedAtTheFirstStart) {
 }
 
 TEST(LoadConfig, NewerSwitchWinsOverTheOlderOne) {
-  const struct {
-    const wchar_t *legacy, *current;
-    bool enabled;
-  } cases[] = {{nullptr, nullptr, true}, {L"0", nullptr, false}, {L"1", nullptr, true},
-               {L"0", L"1", true},       {L"1", L"0", false},    {nullptr, L"0", false},
-               {nullptr, L"7", true},    {nullptr, L"x", false}, {L"-3", nullptr, true}};
-  for (const auto& c : cases) {
+  const std::tuple<const wchar_t*, const wchar_t*, bool> cases[] = {
+      {nullptr, nullptr, true}, {L"0", nullptr, false}, {L"1", nullptr, true},
+      {L"0", L"1", true},       {L"1", L"0", false},    {nullptr, L"0", false},
+      {nullptr, L"7", true},    {nullptr, L"x", false}, {L"-3", nullptr, true}};
+  for (const auto& [legacy, current, enabled] : cases) {
     ResetFakePlatform();
     MemoryProfileStore::Section general;
-    if (c.legacy) general.push_back({L"manual_blocking_enabled", c.legacy});
-    if (c.current) general.push_back({L"guard_enabled", c.current});
+    if (legacy) general.push_back({L"manual_blocking_enabled", legacy});
+    if (current) general.push_back({L"guard_enabled", current});
     MemoryStore().Put(Path(), File{{L"general", general}, {L"profiles", {{L"count", L"1"}}}});
-    EXPECT_EQ(LoadConfig().guard_enabled, c.enabled)
-        << (c.legacy ? "legacy " : "") << (c.current ? "current" : "");
+    EXPECT_EQ(LoadConfig().guard_enabled, enabled)
+        << (legacy ? "legacy " : "") << (current ? "current" : "");
   }
 }
 
@@ -228,13 +219,8 @@ TEST(LoadConfig, WindowValuesBlankAreDroppedBadAreDefaultedLongNamesCut) {
 }
 
 TEST(LoadConfig, DamagedCountsAndIndices) {
-  const struct {
-    const char* what;
-    File file;
-    size_t profiles;
-    int active;
-    size_t first_windows;
-  } cases[] = {
+  // The file, then the profiles read, the active index and the first profile's windows.
+  const std::tuple<const char*, File, size_t, int, size_t> cases[] = {
       {"count beyond the sections gives unnamed empty profiles",
        {{L"profiles", {{L"count", L"3"}, {L"active_index", L"2"}}},
         {L"profile0", {{L"name", L"A"}, {L"windows_count", L"1"}, {L"window0", L"1,1,1,2"}}}},
@@ -262,14 +248,14 @@ TEST(LoadConfig, DamagedCountsAndIndices) {
        1,
        0,
        1}};
-  for (const auto& c : cases) {
+  for (const auto& [what, file, profiles, active, first_windows] : cases) {
     ResetFakePlatform();
-    MemoryStore().Put(Path(), c.file);
+    MemoryStore().Put(Path(), file);
     const StayholdConfig config = LoadConfig();
-    EXPECT_EQ(config.profiles.size(), c.profiles) << c.what;
-    EXPECT_EQ(config.active_profile_index, c.active) << c.what;
-    ASSERT_FALSE(config.profiles.empty()) << c.what;
-    EXPECT_EQ(config.profiles[0].windows.size(), c.first_windows) << c.what;
+    EXPECT_EQ(config.profiles.size(), profiles) << what;
+    EXPECT_EQ(config.active_profile_index, active) << what;
+    ASSERT_FALSE(config.profiles.empty()) << what;
+    EXPECT_EQ(config.profiles[0].windows.size(), first_windows) << what;
   }
 }
 
@@ -375,13 +361,8 @@ TEST(SaveConfig, RoundTripKeepsEverything) {
 }
 
 TEST(UiState, ReadRules) {
-  const struct {
-    const char* what;
-    MemoryProfileStore::Section window;
-    std::vector<std::pair<std::wstring, MemoryProfileStore::Section>> controls;
-    bool present;
-    size_t kept;
-  } cases[] = {
+  // The window's section, the control sections, whether a state is read and its controls.
+  const std::tuple<const char*, MemoryProfileStore::Section, File, bool, size_t> cases[] = {
       {"schema 0 means no state",
        {{L"schema_version", L"0"}, {L"window_width", L"800"}},
        {},
@@ -405,16 +386,14 @@ TEST(UiState, ReadRules) {
         {L"ui_state.settings.control1", {{L"id", L"settings-window-table"}}}},
        true,
        1}};
-  for (const auto& c : cases) {
+  for (const auto& [what, window, controls, present, kept] : cases) {
     ResetFakePlatform();
-    File file{{L"ui_state.settings", c.window}};
-    file.insert(file.end(), c.controls.begin(), c.controls.end());
+    File file{{L"ui_state.settings", window}};
+    file.insert(file.end(), controls.begin(), controls.end());
     MemoryStore().Put(Path(), file);
     const std::optional<WindowUiState> state = ReadUiState(MemoryStore(), Path());
-    EXPECT_EQ(state.has_value(), c.present) << c.what;
-    if (state) {
-      EXPECT_EQ(state->controls.size(), c.kept) << c.what;
-    }
+    EXPECT_EQ(state.has_value(), present) << what;
+    EXPECT_EQ(state ? state->controls.size() : 0u, kept) << what;
   }
 }
 

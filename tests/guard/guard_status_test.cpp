@@ -49,12 +49,9 @@ TEST(RestartWindowMatches, FollowsDayStartEndAndOvernightRules) {
       {"equal ends: open at the start", Window(Friday, 13, 13), At(Fri, 13, 0), true},
       {"equal ends: open next day before the start", Window(Friday, 13, 13), At(Sat, 12, 59), true},
       {"equal ends: closed after 24 hours", Window(Friday, 13, 13), At(Sat, 13, 0), false},
-      {"midnight to midnight covers all of Sunday", Window(Sunday, 0, 0), At(Sun, 23, 59, 59),
-       true},
+      {"midnight to midnight: all of Sunday", Window(Sunday, 0, 0), At(Sun, 23, 59, 59), true},
       {"midnight to midnight does not reach Monday", Window(Sunday, 0, 0), At(Mon, 0, 0), false},
-      {"overnight to 00:00 does not cover the next day", Window(Tuesday, 20, 0), At(Wed, 0, 0),
-       false},
-  };
+      {"overnight to 00:00 ends at midnight", Window(Tuesday, 20, 0), At(Wed, 0, 0), false}};
   for (const auto& [what, window, now, match] : cases)
     EXPECT_EQ(RestartWindowMatches(window, now), match) << what;
 }

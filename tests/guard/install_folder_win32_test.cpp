@@ -40,8 +40,7 @@ TEST(ResolveInstallFolder, ReadsTheRealRegistry) {
       {"an expandable value is not expanded", REG_EXPAND_SZ, L"C:\\%STAYHOLD_NOT_EXPANDED%\\App",
        nullptr, L"C:\\%STAYHOLD_NOT_EXPANDED%\\App"},
       // The value does not fit the 260-character buffer; the query fails and the next key serves.
-      {"an overlong value", REG_SZ, overlong.c_str(), L"F:\\Fallback", L"F:\\Fallback"},
-  };
+      {"an overlong value", REG_SZ, overlong.c_str(), L"F:\\Fallback", L"F:\\Fallback"}};
   for (const auto& c : cases) {
     Clear();
     if (c.product) Write(kProductKey, c.type, c.product);

@@ -43,16 +43,14 @@ TEST(OpenSkinGuide, PrefersTheGuideBesideTheExecutable) {
   const std::wstring installed = L"C:\\Program Files\\Stayhold\\skins";
   const std::tuple<const char*, std::vector<std::wstring>, std::vector<std::wstring>, std::wstring,
                    bool>
-      cases[] = {
-          {"guide beside the executable",
-           {kBeside + kGuide, installed + kGuide},
-           {},
-           kBeside + kGuide,
-           false},
-          {"installed guide", {installed + kGuide}, {}, installed + kGuide, false},
-          {"skin folder beside the executable", {}, {kBeside}, kBeside, true},
-          {"installed skin folder, created", {}, {}, installed, true},
-      };
+      cases[] = {{"guide beside the executable",
+                  {kBeside + kGuide, installed + kGuide},
+                  {},
+                  kBeside + kGuide,
+                  false},
+                 {"installed guide", {installed + kGuide}, {}, installed + kGuide, false},
+                 {"skin folder beside the executable", {}, {kBeside}, kBeside, true},
+                 {"installed skin folder, created", {}, {}, installed, true}};
   for (const auto& [what, files, directories, opened, creates] : cases) {
     ResetFakePlatform();
     Fake().files.insert(files.begin(), files.end());

@@ -103,8 +103,7 @@ TEST(RunStayholdAutoUpdate, EndingsOfEveryStep) {
        },
        true, kRunning, L"", true, 100},
       {"the elevation was refused", [](ScriptedServices& s) { s.launch_ok = false; }, false,
-       L"Setup could not be started.", L"Silent setup could not be started.", true, 94},
-  };
+       L"Setup could not be started.", L"Silent setup could not be started.", true, 94}};
   for (const auto& [what, script, succeeded, status, detail, launched, progress] : cases) {
     ScriptedServices services;
     script(services);
