@@ -164,7 +164,7 @@ TEST(RunStayholdAutoUpdate, DownloadsVerifiesAndStartsTheSetupSilently) {
   WaitForSetupRecord();
   const std::string record = SetupRecord();
   EXPECT_TRUE(
-      record.ends_with(" --install --quiet --preserve-options --restart-app --settings "
+      record.ends_with("--install --quiet --preserve-options --restart-app --settings "
                        "--install-dir \"C:\\Program Files\\Stayhold\""))
       << record;
 }
