@@ -44,6 +44,7 @@ TEST(WideFromUtf8Strict, AcceptsValidAndRefusesEveryMalformation) {
 TEST(TrimWhiteSpace, BothEndsWithTheUnicodeSpaces) {
   EXPECT_EQ(TrimWhiteSpace(L"  a b \t\r\n"), L"a b");
   EXPECT_EQ(TrimWhiteSpace(L" \t "), L"");
+  EXPECT_EQ(TrimWhiteSpace(L""), L"");
   EXPECT_EQ(TrimWhiteSpace(L"x"), L"x");
   // Unicode spaces count too, whatever the C library's locale; the zero-width space does not.
   EXPECT_EQ(TrimWhiteSpace(FromUnits({0x3000, 'a', 0xA0, 0x2003})), L"a");

@@ -10,7 +10,7 @@
 
 TEST(FormatMinutes, PadsAndClamps) {
   const std::pair<int, const wchar_t*> cases[] = {{0, L"00:00"},    {5, L"00:05"},
-                                                  {780, L"13:00"},  {1439, L"23:59"},
+                                                  {1210, L"20:10"}, {1439, L"23:59"},
                                                   {1440, L"23:59"}, {-1, L"00:00"}};
   for (const auto& [minutes, text] : cases)
     EXPECT_EQ(FormatMinutes(minutes), text) << minutes;

@@ -14,6 +14,7 @@ TEST(NormalizeInstallFolder, OneCanonicalForm) {
       {L"\\rooted", L"C:\\rooted"},
       {L"\\\\nas\\apps\\Stayhold\\", L"\\\\nas\\apps\\Stayhold"},
       {L" \t ", L""},
+      {L"", L""},
       {L" odd?\\x\\..\\y\\ ", L"odd?\\y"}};  // no absolute path: on with the trimmed text
   for (const auto& [in, out] : cases)
     EXPECT_EQ(NormalizeInstallFolder(in), out) << in;

@@ -4,9 +4,10 @@
 
 TEST(ParseExitAfterMs, AcceptsOneToTenMinutesOnly) {
   const std::pair<const wchar_t*, uint32_t> cases[] = {
-      {L"1", 1},       {L"600000", 600000}, {L"600001", 0},         {L"0", 0},
-      {L"-5", 0},      {L"abc", 0},         {L"99999999999999", 0}, {L"4294967297", 0},
-      {L"250ms", 250}, {L" 42", 42}};  // wcstol skips white space before the number
+      {L"1", 1},          {L"600000", 600000}, {L"600001", 0}, {L"0", 0},
+      {L"-5", 0},         {L"abc", 0},         {L"", 0},       {L"99999999999999", 0},
+      {L"4294967297", 0}, {L"250ms", 250},     {L" 42", 42}};  // wcstol skips white space before
+                                                               // the number
   for (const auto& [value, ms] : cases)
     EXPECT_EQ(ParseExitAfterMs(std::wstring(L"--exit-after-ms=") + value), ms) << value;
   EXPECT_EQ(ParseExitAfterMs(L"\"C:\\x--exit-after-ms=900\\Stayhold.exe\""), 900u);

@@ -11,7 +11,8 @@ TEST(CanonicalizeTag, TrimsLowersAndTurnsUnderscoresAndTheNorwegiansShareAFamily
   EXPECT_EQ(CanonicalizeTag(L"  sr_Latn_RS \t"), L"sr-latn-rs");
   EXPECT_EQ(CanonicalizeTag(L""), L"");
   const std::pair<const wchar_t*, const wchar_t*> primary[] = {
-      {L"nb-NO", L"no"}, {L"nn_NO", L"no"}, {L"NB", L"no"}, {L"chr-CHER-US", L"chr"}, {L"-x", L""}};
+      {L"nb-NO", L"no"},        {L"nn_NO", L"no"}, {L"NB", L"no"},
+      {L"chr-CHER-US", L"chr"}, {L"-x", L""},      {L"", L""}};
   for (const auto& [in, out] : primary)
     EXPECT_EQ(PrimarySubtag(in), out) << in;
 }
