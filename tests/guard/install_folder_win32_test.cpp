@@ -9,69 +9,48 @@
 
 namespace {
 
-class InstallLocationTest : public ::testing::Test {
- protected:
-  void SetUp() override { Clear(); }
-  void TearDown() override { Clear(); }
-
-  static void Clear() {
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey);
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, kUninstallKey);
-  }
-
-  static void Write(const wchar_t* key, DWORD type, const void* data, DWORD size) {
-    HKEY handle = nullptr;
-    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, key, 0, nullptr, 0, KEY_SET_VALUE, nullptr,
-                              &handle, nullptr),
-              ERROR_SUCCESS);
-    ASSERT_EQ(
-        RegSetValueExW(handle, L"InstallLocation", 0, type, static_cast<const BYTE*>(data), size),
-        ERROR_SUCCESS);
-    RegCloseKey(handle);
-  }
-
-  static void WriteText(const wchar_t* key, const std::wstring& text, DWORD type = REG_SZ) {
-    Write(key, type, text.c_str(), static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
-  }
-};
-
-TEST_F(InstallLocationTest, DefaultWithoutKeys) {
-  EXPECT_EQ(ResolveInstallFolder(), L"C:\\Program Files\\Stayhold");
+void Clear() {
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, kProductKey);
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, kUninstallKey);
 }
 
-TEST_F(InstallLocationTest, ProductKeyIsNormalized) {
-  WriteText(kProductKey, L"D:/Apps/Stayhold/");
-  EXPECT_EQ(ResolveInstallFolder(), L"D:\\Apps\\Stayhold");
-}
-
-TEST_F(InstallLocationTest, DwordValueIsIgnoredAndTheUninstallEntryServes) {
+// Writes InstallLocation as `type`: text, or the number 42 for REG_DWORD.
+void Write(const wchar_t* key, DWORD type, const std::wstring& text) {
   const DWORD number = 42;
-  Write(kProductKey, REG_DWORD, &number, sizeof(number));
-  WriteText(kUninstallKey, L"E:\\Tools\\Stayhold\\");
-  EXPECT_EQ(ResolveInstallFolder(), L"E:\\Tools\\Stayhold");
+  const bool dword = type == REG_DWORD;
+  ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, key, L"InstallLocation", type,
+                            dword ? static_cast<const void*>(&number) : text.c_str(),
+                            dword ? sizeof(number) : static_cast<DWORD>((text.size() + 1) * 2)),
+            ERROR_SUCCESS);
 }
 
-TEST_F(InstallLocationTest, EmptyValueDoesNotCount) {
-  WriteText(kProductKey, L"");
-  EXPECT_EQ(ResolveInstallFolder(), L"C:\\Program Files\\Stayhold");
-}
-
-TEST_F(InstallLocationTest, ExpandableValueIsNotExpanded) {
-  WriteText(kProductKey, L"C:\\%STAYHOLD_NOT_EXPANDED%\\App", REG_EXPAND_SZ);
-  EXPECT_EQ(ResolveInstallFolder(), L"C:\\%STAYHOLD_NOT_EXPANDED%\\App");
-}
-
-TEST_F(InstallLocationTest, OverlongValueDoesNotFitAndTheNextKeyServes) {
-  const std::wstring long_path = L"C:\\" + std::wstring(400, L'x');
-  WriteText(kProductKey, long_path);
-  // The value does not fit the 260-character buffer; the query fails and the next key serves.
-  WriteText(kUninstallKey, L"F:\\Fallback");
-  EXPECT_EQ(ResolveInstallFolder(), L"F:\\Fallback");
-}
-
-TEST_F(InstallLocationTest, InstalledSkinsFollowTheRegistry) {
-  WriteText(kProductKey, L"D:\\Apps\\Stayhold");
+TEST(ResolveInstallFolder, ReadsTheRealRegistry) {
+  const wchar_t* fallback = L"C:\\Program Files\\Stayhold";
+  const std::wstring overlong = L"C:\\" + std::wstring(400, L'x');
+  const struct {
+    const char* what;
+    DWORD type;
+    const wchar_t *product, *uninstall, *folder;
+  } cases[] = {
+      {"no keys: the default", REG_SZ, nullptr, nullptr, fallback},
+      {"the product key, normalized", REG_SZ, L"D:/Apps/Stayhold/", nullptr, L"D:\\Apps\\Stayhold"},
+      {"a number is ignored, the uninstall entry serves", REG_DWORD, L"", L"E:\\Tools\\",
+       L"E:\\Tools"},
+      {"an empty value does not count", REG_SZ, L"", nullptr, fallback},
+      {"an expandable value is not expanded", REG_EXPAND_SZ, L"C:\\%STAYHOLD_NOT_EXPANDED%\\App",
+       nullptr, L"C:\\%STAYHOLD_NOT_EXPANDED%\\App"},
+      // The value does not fit the 260-character buffer; the query fails and the next key serves.
+      {"an overlong value", REG_SZ, overlong.c_str(), L"F:\\Fallback", L"F:\\Fallback"}};
+  for (const auto& c : cases) {
+    Clear();
+    if (c.product) Write(kProductKey, c.type, c.product);
+    if (c.uninstall) Write(kUninstallKey, REG_SZ, c.uninstall);
+    EXPECT_EQ(ResolveInstallFolder(), c.folder) << c.what;
+  }
+  Clear();
+  Write(kProductKey, REG_SZ, L"D:\\Apps\\Stayhold");
   EXPECT_EQ(InstalledSkinsDirectory(), L"D:\\Apps\\Stayhold\\skins");
+  Clear();
 }
 
 }  // namespace

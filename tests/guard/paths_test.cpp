@@ -4,104 +4,70 @@
 
 #include "tests/support/fake_platform.h"
 
-namespace {
+const std::wstring kData = L"C:\\Users\\ada\\AppData\\Local\\Stayhold";
+const std::wstring kBeside = L"C:\\Apps\\Stayhold\\skins";
+const std::wstring kGuide = L"\\HOW_TO_CREATE_CUSTOM_SKIN.txt";
 
-TEST(DataPaths, LiveUnderLocalAppData) {
-  EXPECT_EQ(DataDirectory(), L"C:\\Users\\ada\\AppData\\Local\\Stayhold");
-  EXPECT_EQ(ConfigFilePath(), L"C:\\Users\\ada\\AppData\\Local\\Stayhold\\config.ini");
-  EXPECT_EQ(LogDirectory(), L"C:\\Users\\ada\\AppData\\Local\\Stayhold\\logs");
-  EXPECT_EQ(LogFilePath(), L"C:\\Users\\ada\\AppData\\Local\\Stayhold\\logs\\stayhold.log");
-}
-
-TEST(DataPaths, FallBackToTheTemporaryFolderWhenKnownFoldersFail) {
-  const struct {
-    const char* what;
-    KnownFolder missing;
-  } cases[] = {
-      {"no local app data", KnownFolder::LocalAppData},
-      {"any other known folder fails the whole computation", KnownFolder::Desktop},
-  };
-  for (const auto& c : cases) {
+TEST(DataPaths, LiveUnderLocalAppDataElseInTheTemporaryFolder) {
+  EXPECT_EQ(ConfigFilePath(), kData + L"\\config.ini");
+  EXPECT_EQ(LogFilePath(), kData + L"\\logs\\stayhold.log");
+  // Any failed known folder or an overflowing path sends the data to the temporary folder.
+  const std::wstring temp = L"C:\\Users\\ada\\AppData\\Local\\Temp\\Stayhold";
+  for (KnownFolder missing : {KnownFolder::LocalAppData, KnownFolder::Desktop}) {
     ResetFakePlatform();
-    Fake().known_folders.erase(c.missing);
-    EXPECT_EQ(DataDirectory(), L"C:\\Users\\ada\\AppData\\Local\\Temp\\Stayhold") << c.what;
+    Fake().known_folders.erase(missing);
+    EXPECT_EQ(DataDirectory(), temp);
   }
-}
-
-TEST(DataPaths, FallBackWhenAPathOverflows) {
+  ResetFakePlatform();
   Fake().known_folders[KnownFolder::CommonPrograms] = L"C:\\" + std::wstring(240, L'p');
-  EXPECT_EQ(DataDirectory(), L"C:\\Users\\ada\\AppData\\Local\\Temp\\Stayhold");
+  EXPECT_EQ(DataDirectory(), temp);
 }
 
-TEST(ExecutablePaths, BesideTheRunningFile) {
-  EXPECT_EQ(SkinsDirectory(), L"C:\\Apps\\Stayhold\\skins");
+TEST(ExecutablePaths, BesideTheRunningFileOrEmpty) {
   EXPECT_EQ(AssetsDirectory(), L"C:\\Apps\\Stayhold\\assets");
-  EXPECT_EQ(SkinGuidePath(), L"C:\\Apps\\Stayhold\\skins\\HOW_TO_CREATE_CUSTOM_SKIN.txt");
-}
-
-TEST(ExecutablePaths, EmptyWithoutAModulePath) {
+  EXPECT_EQ(SkinGuidePath(), kBeside + kGuide);
   Fake().module = {L"", 0};
   EXPECT_EQ(SkinsDirectory(), L"");
-  EXPECT_EQ(AssetsDirectory(), L"");
   EXPECT_EQ(SkinGuidePath(), L"");
-}
-
-TEST(InstalledPaths, FollowTheRegisteredFolder) {
   Fake().install_locations[L"Software\\Marlowen\\Stayhold"] = L"D:\\Apps\\Stayhold\\";
-  EXPECT_EQ(InstalledSkinsDirectory(), L"D:\\Apps\\Stayhold\\skins");
-  EXPECT_EQ(InstalledSkinGuidePath(), L"D:\\Apps\\Stayhold\\skins\\HOW_TO_CREATE_CUSTOM_SKIN.txt");
+  EXPECT_EQ(InstalledSkinGuidePath(), L"D:\\Apps\\Stayhold\\skins" + kGuide);
 }
 
 TEST(OpenLogsFolder, CreatesThenOpens) {
   OpenLogsFolder();
-  const std::wstring logs = L"C:\\Users\\ada\\AppData\\Local\\Stayhold\\logs";
-  ASSERT_EQ(Fake().created_directories, std::vector<std::wstring>{logs});
-  EXPECT_EQ(Fake().opened, std::vector<std::wstring>{logs});
+  ASSERT_EQ(Fake().created_directories, std::vector<std::wstring>{kData + L"\\logs"});
+  EXPECT_EQ(Fake().opened, std::vector<std::wstring>{kData + L"\\logs"});
 }
 
 TEST(OpenSkinGuide, PrefersTheGuideBesideTheExecutable) {
-  const std::wstring beside = L"C:\\Apps\\Stayhold\\skins\\HOW_TO_CREATE_CUSTOM_SKIN.txt";
-  const std::wstring installed =
-      L"C:\\Program Files\\Stayhold\\skins\\HOW_TO_CREATE_CUSTOM_SKIN.txt";
-  const struct {
-    const char* what;
-    std::vector<std::wstring> files;
-    std::vector<std::wstring> directories;
-    std::wstring opened;
-    bool creates;
-  } cases[] = {
-      {"guide beside the executable", {beside, installed}, {}, beside, false},
-      {"installed guide", {installed}, {}, installed, false},
-      {"skin folder beside the executable",
-       {},
-       {L"C:\\Apps\\Stayhold\\skins"},
-       L"C:\\Apps\\Stayhold\\skins",
-       true},
-      {"installed skin folder, created", {}, {}, L"C:\\Program Files\\Stayhold\\skins", true},
-  };
-  for (const auto& c : cases) {
+  const std::wstring installed = L"C:\\Program Files\\Stayhold\\skins";
+  const std::tuple<const char*, std::vector<std::wstring>, std::vector<std::wstring>, std::wstring,
+                   bool>
+      cases[] = {{"guide beside the executable",
+                  {kBeside + kGuide, installed + kGuide},
+                  {},
+                  kBeside + kGuide,
+                  false},
+                 {"installed guide", {installed + kGuide}, {}, installed + kGuide, false},
+                 {"skin folder beside the executable", {}, {kBeside}, kBeside, true},
+                 {"installed skin folder, created", {}, {}, installed, true}};
+  for (const auto& [what, files, directories, opened, creates] : cases) {
     ResetFakePlatform();
-    Fake().files.insert(c.files.begin(), c.files.end());
-    Fake().directories.insert(c.directories.begin(), c.directories.end());
+    Fake().files.insert(files.begin(), files.end());
+    Fake().directories.insert(directories.begin(), directories.end());
     OpenSkinGuide();
-    EXPECT_EQ(Fake().opened, std::vector<std::wstring>{c.opened}) << c.what;
-    EXPECT_EQ(!Fake().created_directories.empty(), c.creates) << c.what;
+    EXPECT_EQ(Fake().opened, std::vector<std::wstring>{opened}) << what;
+    EXPECT_EQ(!Fake().created_directories.empty(), creates) << what;
   }
 }
 
 TEST(ShortcutPresence, FilesOnlyAndFalseWhenPathsFail) {
-  const std::wstring desktop = L"C:\\Users\\ada\\Desktop\\Stayhold.lnk";
   EXPECT_FALSE(IsDesktopShortcutPresent());
-  Fake().files.insert(desktop);
+  Fake().files.insert(L"C:\\Users\\ada\\Desktop\\Stayhold.lnk");
   EXPECT_TRUE(IsDesktopShortcutPresent());
   EXPECT_FALSE(IsStartupShortcutPresent());
-  Fake().files.insert(
-      L"C:\\Users\\ada\\AppData\\Roaming\\Microsoft\\Windows\\Start "
-      L"Menu\\Programs\\Startup\\Stayhold.lnk");
+  Fake().files.insert(Fake().known_folders[KnownFolder::Startup] + L"\\Stayhold.lnk");
   EXPECT_TRUE(IsStartupShortcutPresent());
   Fake().known_folders.erase(KnownFolder::Startup);
-  EXPECT_FALSE(IsDesktopShortcutPresent());
-  EXPECT_FALSE(IsStartupShortcutPresent());
+  EXPECT_FALSE(IsDesktopShortcutPresent() || IsStartupShortcutPresent());
 }
-
-}  // namespace

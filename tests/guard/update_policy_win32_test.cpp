@@ -1,4 +1,5 @@
 // The policy writer and reader against the real registry (Wine runs as administrator).
+// update_policy_scenario.sh runs the first test by name to leave the written policy behind.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -8,8 +9,7 @@
 namespace {
 
 DWORD ReadDword(const wchar_t* key, const wchar_t* name) {
-  DWORD data = 0xFFFFFFFF;
-  DWORD size = sizeof(data);
+  DWORD data = 0xFFFFFFFF, size = sizeof(data);
   RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_DWORD, nullptr, &data, &size);
   return data;
 }
@@ -28,13 +28,10 @@ TEST(WindowsUpdatePolicy, ApplyWritesEveryValueAndReadsBackStrict) {
 
 TEST(WindowsUpdatePolicy, TextValueCountsAsAbsent) {
   ASSERT_TRUE(ApplyWindowsUpdatePolicy());
-  HKEY key = nullptr;
-  ASSERT_EQ(RegOpenKeyExW(HKEY_LOCAL_MACHINE, kWindowsUpdateAuPolicyKey, 0, KEY_SET_VALUE, &key),
-            ERROR_SUCCESS);
   const wchar_t text[] = L"1";
-  RegSetValueExW(key, L"NoAutoUpdate", 0, REG_SZ, reinterpret_cast<const BYTE*>(text),
-                 sizeof(text));
-  RegCloseKey(key);
+  ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kWindowsUpdateAuPolicyKey, L"NoAutoUpdate", REG_SZ,
+                            text, sizeof(text)),
+            ERROR_SUCCESS);
   const UpdatePolicyReading reading = ReadWindowsUpdatePolicy(SystemMachineRegistry());
   EXPECT_FALSE(reading.no_auto_update.has_value());
   EXPECT_TRUE(IsStrictUpdatePolicy(reading));

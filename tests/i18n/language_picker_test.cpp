@@ -5,9 +5,7 @@
 #include "tests/support/fake_platform.h"
 #include "tests/support/language_setting.h"
 
-namespace {
-
-TEST(LanguagePickerItems, AutomaticFirstThenEveryEntry) {
+TEST(LanguagePicker, AutomaticFirstThenEveryEntryCountingFromOne) {
   const std::vector<std::wstring> items = LanguagePickerItems();
   ASSERT_EQ(items.size(), 89u);
   EXPECT_EQ(items[0], L"Automatic (Windows)");
@@ -16,20 +14,12 @@ TEST(LanguagePickerItems, AutomaticFirstThenEveryEntry) {
   EXPECT_EQ(items[8], L"čeština / Czech (cs-CZ)");
   EXPECT_EQ(items[11], L"English (en-US)");  // same native and English name: no " / "
   EXPECT_EQ(items[88], L"cy-GB (cy-GB)");
+  const std::pair<const wchar_t*, int> cases[] = {{L"auto", 0},   {L"ar-SA", 1}, {L"cs-CZ", 8},
+                                                  {L"cy-GB", 88}, {L"xx", 0},    {L"de-AT", 18}};
+  for (const auto& [language, index] : cases) {
+    UseLanguageSetting(language);
+    EXPECT_EQ(LanguagePickerIndex(), index) << language;
+  }
   UseLanguageSetting(L"cs-CZ");
   EXPECT_EQ(LanguagePickerItems()[0], L"Automaticky (Windows)");
 }
-
-TEST(LanguagePickerIndex, AutoIsZeroEntriesCountFromOne) {
-  const struct {
-    const wchar_t* language;
-    int index;
-  } cases[] = {{L"auto", 0},   {L"ar-SA", 1}, {L"cs-CZ", 8}, {L"en-GB", 12},
-               {L"cy-GB", 88}, {L"xx", 0},    {L"de-AT", 18}};
-  for (const auto& c : cases) {
-    UseLanguageSetting(c.language);
-    EXPECT_EQ(LanguagePickerIndex(), c.index) << c.language;
-  }
-}
-
-}  // namespace

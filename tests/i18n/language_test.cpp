@@ -7,84 +7,59 @@
 #include "tests/support/fake_platform.h"
 #include "tests/support/language_setting.h"
 
-namespace {
-
-TEST(CanonicalizeTag, TrimsLowersAndTurnsUnderscores) {
+TEST(CanonicalizeTag, TrimsLowersAndTurnsUnderscoresAndTheNorwegiansShareAFamily) {
   EXPECT_EQ(CanonicalizeTag(L"  sr_Latn_RS \t"), L"sr-latn-rs");
-  EXPECT_EQ(CanonicalizeTag(L"EN-us"), L"en-us");
   EXPECT_EQ(CanonicalizeTag(L""), L"");
+  const std::pair<const wchar_t*, const wchar_t*> primary[] = {
+      {L"nb-NO", L"no"},        {L"nn_NO", L"no"}, {L"NB", L"no"},
+      {L"chr-CHER-US", L"chr"}, {L"-x", L""},      {L"", L""}};
+  for (const auto& [in, out] : primary)
+    EXPECT_EQ(PrimarySubtag(in), out) << in;
 }
 
-TEST(PrimarySubtag, NorwegianVariantsShareOneFamily) {
-  const struct {
-    const wchar_t* in;
-    const wchar_t* out;
-  } cases[] = {{L"nb-NO", L"no"},        {L"nn_NO", L"no"}, {L"NB", L"no"}, {L"zh-HK", L"zh"},
-               {L"chr-CHER-US", L"chr"}, {L"", L""},        {L"-x", L""}};
-  for (const auto& c : cases)
-    EXPECT_EQ(PrimarySubtag(c.in), c.out) << c.in;
-}
-
+// By tag, then by language code, then by family, each taking the first entry in table order.
 TEST(NormalizeLanguageSetting, FirstMatchInTableOrder) {
-  const struct {
-    const wchar_t* in;
-    const wchar_t* out;
-  } cases[] = {
+  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
       {L"", L"auto"},
-      {L"auto", L"auto"},
       {L" AUTO ", L"auto"},
       {L"xx", L"auto"},
-      {L"cs-CZ", L"cs-CZ"},
       {L"cs_cz", L"cs-CZ"},
       {L"cs", L"cs-CZ"},
       {L"de-AT", L"de-DE"},
       {L"fr", L"fr-CA"},
       {L"fr-FR", L"fr-FR"},
-      {L"es", L"es-MX"},
-      {L"pt", L"pt-BR"},
-      {L"en", L"en-US"},
-      {L"en-GB", L"en-GB"},
       {L"no", L"nb-NO"},
       {L"nn-NO", L"nn-NO"},
       {L"sr", L"sr-Cyrl-BA"},
       {L"sr-Latn", L"sr-Latn-RS"},
-      {L"sr-Latn-BA", L"sr-Latn-RS"},
-      {L"sr-Cyrl-RS", L"sr-Cyrl-RS"},
       {L"zh-HK", L"zh-CN"},
       {L"zh-tw", L"zh-TW"},
-      {L"ca-ES-valencia", L"ca-ES-valencia"},
       {L"qu", L"quz-PE"},
       {L"quz", L"quz-PE"},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(NormalizeLanguageSetting(c.in), c.out) << c.in;
+      {L"ca-ES-valencia", L"ca-ES-valencia"}};
+  for (const auto& [in, out] : cases)
+    EXPECT_EQ(NormalizeLanguageSetting(in), out) << in;
 }
 
 TEST(CurrentLanguageIndex, SettingThenWindowsThenEnglish) {
-  const struct {
-    const char* what;
-    const wchar_t* setting;
-    const wchar_t* windows;
-    const wchar_t* column;
-  } cases[] = {
-      {"explicit Czech", L"cs-CZ", L"en-US", L"cs"},
-      {"auto follows Windows", L"auto", L"de-CH", L"de"},
-      {"sr-Latn-RS reads sr-Latn", L"sr-Latn-RS", L"en-US", L"sr-Latn"},
-      {"sr-Cyrl-RS reads sr", L"sr-Cyrl-RS", L"en-US", L"sr"},
-      {"valencian reads Catalan", L"ca-ES-valencia", L"en-US", L"ca"},
-      {"Norwegian nynorsk reads no", L"nn-NO", L"en-US", L"no"},
-      {"unknown setting follows Windows", L"xx", L"ja-JP", L"ja"},
-      {"Windows outside the table reads English", L"auto", L"xx-YY", L"en"},
-      {"no Windows language reads English", L"auto", L"", L"en"},
-  };
-  for (const auto& c : cases) {
-    UseLanguageSetting(c.setting);
-    Fake().ui_locale = c.windows;
-    EXPECT_EQ(CurrentLanguageIndex(), LanguageColumnIndex(c.column)) << c.what;
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
+      {L"cs-CZ", L"en-US", L"cs"},
+      {L"auto", L"de-CH", L"de"},
+      {L"sr-Latn-RS", L"en-US", L"sr-Latn"},
+      {L"sr-Cyrl-RS", L"en-US", L"sr"},
+      {L"ca-ES-valencia", L"en-US", L"ca"},
+      {L"nn-NO", L"en-US", L"no"},
+      {L"xx", L"ja-JP", L"ja"},
+      {L"auto", L"xx-YY", L"en"},
+      {L"auto", L"", L"en"}};
+  for (const auto& [setting, windows, column] : cases) {
+    UseLanguageSetting(setting);
+    Fake().ui_locale = windows;
+    EXPECT_EQ(CurrentLanguageIndex(), LanguageColumnIndex(column)) << setting << " " << windows;
   }
 }
 
-TEST(EffectiveLanguageTag, AutoUsesWindowsOrEnUs) {
+TEST(EffectiveLanguageTag, TheSettingElseWindowsElseEnUs) {
   UseLanguageSetting(L"auto");
   Fake().ui_locale = L"";
   EXPECT_EQ(EffectiveLanguageTag(), L"en-US");
@@ -96,10 +71,7 @@ TEST(EffectiveLanguageTag, AutoUsesWindowsOrEnUs) {
   EXPECT_EQ(EffectiveLanguageTag(), L"es-MX");
 }
 
-std::wstring reader_setting;
-std::wstring ReadSetting() {
-  return reader_setting;
-}
+static std::wstring reader_setting;
 
 TEST(LanguageSetting, ReadAtEveryLookupAndAutoWithoutAReader) {
   Fake().ui_locale = L"ja-JP";
@@ -107,8 +79,7 @@ TEST(LanguageSetting, ReadAtEveryLookupAndAutoWithoutAReader) {
   EXPECT_EQ(LanguageSetting(), L"auto");
   EXPECT_EQ(EffectiveLanguageTag(), L"ja-JP");
   EXPECT_EQ(LanguagePickerIndex(), 0);
-
-  SetLanguageSettingReader(&ReadSetting);
+  SetLanguageSettingReader([] { return reader_setting; });
   reader_setting = L"de";
   EXPECT_EQ(EffectiveLanguageTag(), L"de-DE");
   reader_setting = L"cs";  // nothing is cached
@@ -116,40 +87,18 @@ TEST(LanguageSetting, ReadAtEveryLookupAndAutoWithoutAReader) {
   EXPECT_EQ(LanguagePickerIndex(), 8);
 }
 
-TEST(LanguageColumnIndex, PositionsInColumnOrder) {
-  EXPECT_EQ(LanguageColumnIndex(L"ar"), 0);
-  EXPECT_EQ(LanguageColumnIndex(L"cs"), 7);
-  EXPECT_EQ(LanguageColumnIndex(L"EN"), 10);
-  EXPECT_EQ(LanguageColumnIndex(L"sr-latn"), 30);
-  EXPECT_EQ(LanguageColumnIndex(L"cy"), 80);
+TEST(TableIndices, FirstMatchIgnoringCaseAndMinusOneForNothing) {
+  for (size_t i = 0; i < kLanguageColumnCount; ++i) {
+    std::wstring upper = kLanguageColumns[i];
+    for (wchar_t& c : upper)
+      c = static_cast<wchar_t>(towupper(c));
+    EXPECT_EQ(LanguageColumnIndex(upper), static_cast<int>(i)) << upper;
+  }
   EXPECT_EQ(LanguageColumnIndex(L""), -1);
   EXPECT_EQ(LanguageColumnIndex(L"xx"), -1);
-}
-
-TEST(LocaleTableIndex, TagThenCodeThenFamily) {
-  EXPECT_EQ(LocaleTableIndex(L"ar-SA"), 0);
-  EXPECT_EQ(LocaleTableIndex(L"en-GB"), 11);
-  EXPECT_EQ(LocaleTableIndex(L"en"), 10);
-  EXPECT_EQ(LocaleTableIndex(L"cy-GB"), 87);
-  EXPECT_EQ(LocaleTableIndex(L"ca-ES-valencia"), 86);
-  EXPECT_EQ(LocaleTableIndex(L"de-AT"), 17);
+  for (size_t i = 0; i < kLocaleEntryCount; ++i)
+    EXPECT_EQ(LocaleTableIndex(kLocaleTable[i].tag), static_cast<int>(i)) << kLocaleTable[i].tag;
+  EXPECT_STREQ(kLocaleTable[LocaleTableIndex(L"en")].tag, L"en-US");     // by code
+  EXPECT_STREQ(kLocaleTable[LocaleTableIndex(L"de-AT")].tag, L"de-DE");  // by family
   EXPECT_EQ(LocaleTableIndex(L"xx"), -1);
 }
-
-TEST(Localized, CzechInCzechEnglishElsewhere) {
-  const struct {
-    const wchar_t* setting;
-    const wchar_t* windows;
-    const wchar_t* expected;
-  } cases[] = {
-      {L"cs-CZ", L"en-US", L"Ahoj"}, {L"auto", L"cs-CZ", L"Ahoj"}, {L"de-DE", L"cs-CZ", L"Hello"},
-      {L"auto", L"en-GB", L"Hello"}, {L"xx", L"xx-YY", L"Hello"},
-  };
-  for (const auto& c : cases) {
-    UseLanguageSetting(c.setting);
-    Fake().ui_locale = c.windows;
-    EXPECT_EQ(Localized(L"Ahoj", L"Hello"), c.expected) << c.setting << " " << c.windows;
-  }
-}
-
-}  // namespace

@@ -10,12 +10,11 @@ expect() {  # TABLE PATTERN WHAT
     failures=$((failures + 1))
   fi
 }
-expect Property '^UpgradeCode\t\{7C2E915B-3F4A-4D68-9B1E-5A60C3D7E214\}$' "fixed upgrade code"
-expect Property '^ProductVersion\t1\.0\.112$' "product version"
-expect Property '^ProductName\tStayhold$' "product name"
-expect Property '^Manufacturer\tMarlowen$' "manufacturer"
-expect Property '^ALLUSERS\t1$' "per-machine"
-expect Property '^ARPPRODUCTICON\tAppIcon$' "icon in Installed apps"
+# The fixed upgrade code, version, names, a per-machine install and the icon in Installed apps.
+for property in 'UpgradeCode\t\{7C2E915B-3F4A-4D68-9B1E-5A60C3D7E214\}' 'ProductVersion\t1\.0\.112' \
+    'ProductName\tStayhold' 'Manufacturer\tMarlowen' 'ALLUSERS\t1' 'ARPPRODUCTICON\tAppIcon'; do
+  expect Property "^$property\$" "property $property"
+done
 expect Component '^cmpStartupShortcut\t.*\tSTARTWITHWINDOWS = "1"\t' "Startup shortcut condition"
 expect Component '^cmpDesktopShortcut\t.*\tDESKTOPSHORTCUT = "1"\t' "desktop shortcut condition"
 expect Component '^cmpStartMenuShortcut\t[^\t]*\tPublisherStartMenuDir\t[0-9]+\t\t' "Start menu shortcut always"

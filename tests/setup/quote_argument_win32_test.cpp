@@ -6,21 +6,10 @@
 
 #include "setup/quote_argument.h"
 
-namespace {
-
 TEST(QuoteArgument, CommandLineToArgvWReadsBackEveryArgument) {
-  const std::wstring texts[] = {L"",
-                                L"plain",
-                                L"C:\\Program Files\\Stayhold",
-                                L"C:\\X\\",
-                                L"say \"hi\"",
-                                L"a\\\\\"b",
-                                L"\\\\nas\\",
-                                L"tab\there",
-                                L"\"\"",
-                                L"trailing\\\\",
-                                L"\u010Cesk\u00E1 slo\u017Eka"};
-  for (const std::wstring& text : texts) {
+  for (const std::wstring text :
+       {L"", L"plain", L"C:\\Program Files\\Stayhold", L"C:\\X\\", L"say \"hi\"", L"a\\\\\"b",
+        L"\\\\nas\\", L"tab\there", L"\"\"", L"trailing\\\\", L"\u010Cesk\u00E1 slo\u017Eka"}) {
     const std::wstring line = L"setup.exe " + QuoteArgument(text) + L" --next";
     int count = 0;
     LPWSTR* argv = CommandLineToArgvW(line.c_str(), &count);
@@ -31,5 +20,3 @@ TEST(QuoteArgument, CommandLineToArgvWReadsBackEveryArgument) {
     LocalFree(argv);
   }
 }
-
-}  // namespace

@@ -17,18 +17,10 @@ namespace fs = std::filesystem;
 std::wstring ReadString(const wchar_t* key, const wchar_t* name) {
   wchar_t value[1024] = {};
   DWORD size = sizeof(value);
-  if (RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_SZ, nullptr, value, &size) !=
-      ERROR_SUCCESS) {
-    return L"<missing>";
-  }
-  return value;
-}
-
-DWORD ReadDword(const wchar_t* key, const wchar_t* name) {
-  DWORD value = 0xFFFFFFFF;
-  DWORD size = sizeof(value);
-  RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_DWORD, nullptr, &value, &size);
-  return value;
+  return RegGetValueW(HKEY_LOCAL_MACHINE, key, name, RRF_RT_REG_SZ, nullptr, value, &size) ==
+                 ERROR_SUCCESS
+             ? value
+             : L"<missing>";
 }
 
 fs::path KnownPath(const wchar_t* variable, const wchar_t* tail) {
@@ -48,19 +40,23 @@ TEST(FileCopySetup, InstallRepairAndUninstall) {
   EXPECT_TRUE(fs::exists(startup)) << startup;
   EXPECT_TRUE(fs::exists(desktop)) << desktop;
 
-  EXPECT_EQ(ReadString(kUninstallKey, L"DisplayName"), L"Stayhold");
-  EXPECT_EQ(ReadString(kUninstallKey, L"DisplayVersion"), L"1.0.112");
-  EXPECT_EQ(ReadString(kUninstallKey, L"InstallLocation"), L"C:\\CopyInstall");
-  EXPECT_EQ(ReadString(kUninstallKey, L"UninstallString"),
-            L"\"C:\\CopyInstall\\StayholdSetup.exe\" --uninstall");
-  EXPECT_EQ(ReadString(kUninstallKey, L"QuietUninstallString"),
-            L"\"C:\\CopyInstall\\StayholdSetup.exe\" --uninstall --quiet");
-  EXPECT_EQ(ReadString(kUninstallKey, L"DisplayIcon"), L"C:\\CopyInstall\\Stayhold.exe,0");
-  EXPECT_EQ(ReadDword(kUninstallKey, L"NoModify"), 1u);
-  const DWORD kilobytes = ReadDword(kUninstallKey, L"EstimatedSize");
-  const uintmax_t expected = KilobytesOf(fs::file_size(folder / L"Stayhold.exe")) +
-                             KilobytesOf(fs::file_size(folder / L"StayholdSetup.exe"));
-  EXPECT_EQ(kilobytes, expected);
+  const std::pair<const wchar_t*, const wchar_t*> entry[] = {
+      {L"DisplayName", L"Stayhold"},
+      {L"DisplayVersion", L"1.0.112"},
+      {L"InstallLocation", L"C:\\CopyInstall"},
+      {L"UninstallString", L"\"C:\\CopyInstall\\StayholdSetup.exe\" --uninstall"},
+      {L"QuietUninstallString", L"\"C:\\CopyInstall\\StayholdSetup.exe\" --uninstall --quiet"},
+      {L"DisplayIcon", L"C:\\CopyInstall\\Stayhold.exe,0"}};
+  for (const auto& [name, value] : entry)
+    EXPECT_EQ(ReadString(kUninstallKey, name), value) << name;
+  DWORD no_modify = 0, kilobytes = 0, size = sizeof(DWORD);
+  RegGetValueW(HKEY_LOCAL_MACHINE, kUninstallKey, L"NoModify", RRF_RT_REG_DWORD, nullptr,
+               &no_modify, &size);
+  RegGetValueW(HKEY_LOCAL_MACHINE, kUninstallKey, L"EstimatedSize", RRF_RT_REG_DWORD, nullptr,
+               &kilobytes, &size);
+  EXPECT_EQ(no_modify, 1u);
+  EXPECT_EQ(kilobytes, KilobytesOf(fs::file_size(folder / L"Stayhold.exe")) +
+                           KilobytesOf(fs::file_size(folder / L"StayholdSetup.exe")));
   EXPECT_EQ(
       ReadString(L"Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Stayhold.exe", L""),
       L"C:\\CopyInstall\\Stayhold.exe");
@@ -75,7 +71,6 @@ TEST(FileCopySetup, InstallRepairAndUninstall) {
   EXPECT_TRUE(fs::exists(desktop));
 
   EXPECT_EQ(RunUninstall(), 0);
-  EXPECT_FALSE(fs::exists(folder / L"Stayhold.exe"));
   EXPECT_FALSE(fs::exists(folder));
   EXPECT_FALSE(fs::exists(desktop));
   EXPECT_EQ(ReadString(kUninstallKey, L"DisplayName"), L"<missing>");
@@ -83,11 +78,10 @@ TEST(FileCopySetup, InstallRepairAndUninstall) {
 }
 
 TEST(Registration, KilobytesRoundUpAndStopBelowTheLimit) {
-  EXPECT_EQ(KilobytesOf(0), 0u);
-  EXPECT_EQ(KilobytesOf(1), 1u);
-  EXPECT_EQ(KilobytesOf(1024), 1u);
-  EXPECT_EQ(KilobytesOf(1025), 2u);
-  EXPECT_EQ(KilobytesOf(0xFFFFFFFFFFFFull), 0xFFFFFFFEu);
+  const std::pair<uint64_t, uint32_t> cases[] = {
+      {0, 0}, {1, 1}, {1024, 1}, {1025, 2}, {0xFFFFFFFFFFFFull, 0xFFFFFFFEu}};
+  for (const auto& [bytes, kilobytes] : cases)
+    EXPECT_EQ(KilobytesOf(bytes), kilobytes) << bytes;
 }
 
 }  // namespace

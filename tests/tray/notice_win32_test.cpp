@@ -39,19 +39,14 @@ void Key(HWND hwnd, WPARAM key) {
   PostMessageW(hwnd, WM_KEYUP, key, 0xC0000001);
 }
 
-TEST(NoticeWin32, EnterConfirmsTheExit) {
-  NoticeDriver driver(L"Exit Stayhold", [](HWND hwnd) { Key(hwnd, VK_RETURN); });
-  EXPECT_TRUE(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr));
-}
-
-TEST(NoticeWin32, ClosingTheWindowOrThePopupMeansNo) {
-  {
-    NoticeDriver driver(L"Exit Stayhold", [](HWND hwnd) { PostMessageW(hwnd, WM_CLOSE, 0, 0); });
-    EXPECT_FALSE(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr));
-  }
-  {
-    NoticeDriver driver(L"Exit Stayhold", [](HWND hwnd) { Key(hwnd, VK_ESCAPE); });
-    EXPECT_FALSE(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr));
+TEST(NoticeWin32, EnterConfirmsTheExitClosingTheWindowOrThePopupMeansNo) {
+  const std::pair<void (*)(HWND), bool> cases[] = {
+      {[](HWND hwnd) { Key(hwnd, VK_RETURN); }, true},
+      {[](HWND hwnd) { PostMessageW(hwnd, WM_CLOSE, 0, 0); }, false},
+      {[](HWND hwnd) { Key(hwnd, VK_ESCAPE); }, false}};
+  for (const auto& [act, confirmed] : cases) {
+    NoticeDriver driver(L"Exit Stayhold", act);
+    EXPECT_EQ(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr), confirmed);
   }
 }
 

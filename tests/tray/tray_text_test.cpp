@@ -7,17 +7,17 @@
 #include "i18n/string_table.h"
 #include "tests/support/fake_platform.h"
 
-namespace {
-
 UpdateManifest Manifest(const wchar_t* version) {
   UpdateManifest manifest;
   manifest.version = version;
   return manifest;
 }
 
-TEST(FormatUpdateTooltip, VersionOnlyWhenKnown) {
-  EXPECT_EQ(FormatUpdateTooltip(Manifest(L"1.2.0")),
-            L"Update available 1.2.0 - open tray menu and choose Update.");
+TEST(TrayTooltipText, AKnownUpdateReplacesTheStatusAndNamesItsVersionWhenKnown) {
+  const GuardStatus blocking{true, true, false, L"P", L""};
+  EXPECT_EQ(TrayTooltipText(blocking, std::nullopt), L"Stayhold: blocking planned restarts");
+  EXPECT_EQ(TrayTooltipText(blocking, Manifest(L"2.0")),
+            L"Update available 2.0 - open tray menu and choose Update.");
   EXPECT_EQ(FormatUpdateTooltip(Manifest(L"")),
             L"Update available - open tray menu and choose Update.");
   AppConfig().language = L"cs-CZ";
@@ -26,44 +26,22 @@ TEST(FormatUpdateTooltip, VersionOnlyWhenKnown) {
             L"Aktualizovat.");
 }
 
-TEST(TrayTooltipText, AKnownUpdateReplacesTheStatus) {
-  const GuardStatus blocking{true, true, false, L"P", L""};
-  EXPECT_EQ(TrayTooltipText(blocking, std::nullopt), L"Stayhold: blocking planned restarts");
-  EXPECT_EQ(TrayTooltipText(blocking, Manifest(L"2.0")),
-            L"Update available 2.0 - open tray menu and choose Update.");
-}
-
-TEST(FitToField, CutsSilentlyToTheField) {
-  const std::wstring long_text(300, L'x');
-  EXPECT_EQ(FitToField(long_text, 128).size(), 127u);
-  EXPECT_EQ(FitToField(long_text, 64).size(), 63u);
-  EXPECT_EQ(FitToField(L"short", 128), L"short");
-  EXPECT_EQ(FitToField(std::wstring(127, L'y'), 128).size(), 127u);
+TEST(FitToField, CutsSilentlyToTheFieldNeverSplittingACharacter) {
+  const std::pair<size_t, size_t> sizes[] = {{300, 127}, {127, 127}, {5, 5}};
+  for (const auto& [length, kept] : sizes)
+    EXPECT_EQ(FitToField(std::wstring(length, L'x'), 128), std::wstring(kept, L'x')) << length;
   EXPECT_EQ(FitToField(L"abc", 0), L"");
-}
-
-TEST(FitToField, NeverSplitsACharacter) {
   std::wstring text(126, L'a');
-  if (sizeof(wchar_t) == 2) {
-    text += static_cast<wchar_t>(0xD83D);  // the emoji as a surrogate pair
-    text += static_cast<wchar_t>(0xDE00);
-  } else {
-    text += static_cast<wchar_t>(0x1F600);
-    text += L'b';
-  }
-  // With 16-bit text the pair would straddle the cut and is dropped whole; with 32-bit text the
-  // emoji is one unit and fits.
+  // With 16-bit text the emoji's pair would straddle the cut and is dropped whole; with 32-bit
+  // text the emoji is one unit and fits.
+  text += sizeof(wchar_t) == 2 ? L"\xD83D\xDE00" : L"\U0001F600b";
   EXPECT_EQ(FitToField(text, 128), text.substr(0, sizeof(wchar_t) == 2 ? 126 : 127));
-}
 
-TEST(FitToField, LongLocalizedTooltipFits) {
   AppConfig().language = L"ta-IN";
   const GuardStatus window{true, false, true, L"P",
                            L"\x0BB5\x0BC6\x0BB3\x0BCD\x0BB3\x0BBF 22:00-02:00 (overnight)"};
   const std::wstring tip = FitToField(TrayTooltipText(window, std::nullopt), 128);
   EXPECT_LE(tip.size(), 127u);
-  EXPECT_EQ(tip.compare(0, 5, std::wstring(kStringTable[26].cells[LanguageColumnIndex(L"ta")], 5)),
-            0);
+  EXPECT_TRUE(tip.starts_with(
+      std::wstring(kStringTable[26].cells[LanguageColumnIndex(L"ta")]).substr(0, 5)));
 }
-
-}  // namespace

@@ -5,50 +5,33 @@
 #include "guard/guard_state.h"
 #include "tests/support/fake_platform.h"
 
-namespace {
-
-const wchar_t kPage[] = L"https://example.invalid/releases";
-
 TEST(ReadManifestString, TextSearchesWithTheirEffects) {
-  const struct {
-    const char* what;
-    const wchar_t* text;
-    const wchar_t* key;
-    std::optional<std::wstring> value;
-  } cases[] = {
-      {"plain", L"{\"version\": \"1.2.3\"}", L"version", L"1.2.3"},
-      {"first occurrence wins", L"{\"a\":\"1\",\"a\":\"2\"}", L"a", L"1"},
-      {"escapes", L"{\"c\":\"x\\ny\\tz\\r\\\"q\\\\\\/\"}", L"c", L"x\ny\tz\r\"q\\/"},
-      {"\\u stays literal", L"{\"c\":\"\\u0041\"}", L"c", L"u0041"},
-      {"missing key", L"{\"version\":\"1\"}", L"sha256", std::nullopt},
-      {"no colon after the key", L"{\"version\" \"1\"}", L"version", std::nullopt},
-      {"unterminated value", L"{\"version\":\"1.2", L"version", std::nullopt},
-      {"number value runs on to the next quote", L"{\"version\": 1, \"x\": \"y\"}", L"version",
-       L"x"},
-      {"key only as a substring does not count", L"{\"my_version\":\"9\"}", L"version",
-       std::nullopt},
-      {"empty value", L"{\"sha256\":\"\"}", L"sha256", L""},
-      {"whitespace and lines around the colon", L"{\"v\"\n :\n  \"x y\"}", L"v", L"x y"},
-  };
-  for (const auto& c : cases)
-    EXPECT_EQ(ReadManifestString(c.text, c.key), c.value) << c.what;
+  const std::tuple<const char*, const wchar_t*, const wchar_t*, std::optional<std::wstring>>
+      cases[] = {
+          {"plain", L"{\"version\": \"1.2.3\"}", L"version", L"1.2.3"},
+          {"first occurrence wins", L"{\"a\":\"1\",\"a\":\"2\"}", L"a", L"1"},
+          {"escapes", L"{\"c\":\"x\\ny\\tz\\r\\\"q\\\\\\/\"}", L"c", L"x\ny\tz\r\"q\\/"},
+          {"\\u stays literal", L"{\"c\":\"\\u0041\"}", L"c", L"u0041"},
+          {"missing key", L"{\"version\":\"1\"}", L"sha256", std::nullopt},
+          {"no colon after the key", L"{\"version\" \"1\"}", L"version", std::nullopt},
+          {"unterminated value", L"{\"version\":\"1.2", L"version", std::nullopt},
+          {"a number runs on to the next quote", L"{\"v\": 1, \"x\": \"y\"}", L"v", L"x"},
+          {"key only as a substring does not count", L"{\"my_v\":\"9\"}", L"v", std::nullopt},
+          {"empty value", L"{\"sha256\":\"\"}", L"sha256", L""},
+          {"whitespace and lines around the colon", L"{\"v\"\n :\n  \"x y\"}", L"v", L"x y"}};
+  for (const auto& [what, text, key, value] : cases)
+    EXPECT_EQ(ReadManifestString(text, key), value) << what;
 }
 
-TEST(ReadManifestArray, BracketDepthIgnoringStrings) {
+TEST(ReadManifestArray, BracketDepthIgnoringStringsAndSplitIntoTopLevelObjects) {
   EXPECT_EQ(ReadManifestArray(L"{\"history\": [1, [2], \"]\"] , \"x\":1}", L"history"),
             L"[1, [2], \"]\"]");
   EXPECT_EQ(ReadManifestArray(L"{\"history\": [1, 2", L"history"), std::nullopt);
   // The first '[' behind the colon counts even inside a string value: a text search.
   EXPECT_EQ(ReadManifestArray(L"{\"history\": \"[a]\"}", L"history"), L"[a]");
   EXPECT_EQ(ReadManifestArray(L"{}", L"history"), std::nullopt);
-}
-
-TEST(SplitManifestObjects, TopLevelObjectsOnly) {
-  const std::vector<std::wstring> objects =
-      SplitManifestObjects(L"[{\"a\":\"}\"}, 5, {\"b\":{\"c\":1}}, {]");
-  ASSERT_EQ(objects.size(), 2u);
-  EXPECT_EQ(objects[0], L"{\"a\":\"}\"}");
-  EXPECT_EQ(objects[1], L"{\"b\":{\"c\":1}}");
+  EXPECT_EQ(SplitManifestObjects(L"[{\"a\":\"}\"}, 5, {\"b\":{\"c\":1}}, {]"),
+            (std::vector<std::wstring>{L"{\"a\":\"}\"}", L"{\"b\":{\"c\":1}}"}));
 }
 
 TEST(ParseUpdateManifest, ReadsAllFields) {
@@ -56,9 +39,9 @@ TEST(ParseUpdateManifest, ReadsAllFields) {
       L"{\"version\":\"1.0.120\",\"setup_url\":\"https://h/s.exe\",\"sha256\":\"AB\","
       L"\"changes\":\"n\",\"changes_cs\":\"c\",\"changes_en\":\"e\","
       L"\"history\":[{\"version\":\"1.0.115\",\"changes\":\"old\"},{\"changes\":\"no version\"}]}",
-      kPage);
+      L"https://example.invalid/releases");
   EXPECT_EQ(m.version, L"1.0.120");
-  EXPECT_EQ(m.release_url, kPage);  // absent: the compiled-in page
+  EXPECT_EQ(m.release_url, L"https://example.invalid/releases");  // absent: the given page
   EXPECT_EQ(m.setup_url, L"https://h/s.exe");
   EXPECT_EQ(m.sha256, L"AB");
   ASSERT_EQ(m.history.size(), 2u);  // the entry without a version dropped, the latest appended
@@ -68,12 +51,7 @@ TEST(ParseUpdateManifest, ReadsAllFields) {
 }
 
 TEST(ParseUpdateManifest, HistoryEffects) {
-  const struct {
-    const char* what;
-    const wchar_t* text;
-    const wchar_t* version;
-    size_t history;
-  } cases[] = {
+  const std::tuple<const char*, const wchar_t*, const wchar_t*, size_t> cases[] = {
       {"history before the version: the first entry's version wins",
        L"{\"history\":[{\"version\":\"1.0.200\"}],\"version\":\"1.0.300\"}", L"1.0.200", 1},
       {"versions is the older key", L"{\"version\":\"2\",\"versions\":[{\"version\":\"1.5\"}]}",
@@ -84,28 +62,25 @@ TEST(ParseUpdateManifest, HistoryEffects) {
        L"{\"version\":\"1.0\",\"changes\":\"x\",\"history\":[{\"version\":\"1.0.0\"}]}", L"1.0", 1},
       {"latest without a note is not appended", L"{\"version\":\"3\"}", L"3", 0},
       {"latest with a note is appended", L"{\"version\":\"3\",\"changes\":\"x\"}", L"3", 1},
-      {"no version, nothing appended", L"{\"changes\":\"x\"}", L"", 0},
-  };
-  for (const auto& c : cases) {
-    const UpdateManifest m = ParseUpdateManifest(c.text, kPage);
-    EXPECT_EQ(m.version, c.version) << c.what;
-    EXPECT_EQ(m.history.size(), c.history) << c.what;
+      {"no version, nothing appended", L"{\"changes\":\"x\"}", L"", 0}};
+  for (const auto& [what, text, version, history] : cases) {
+    const UpdateManifest m = ParseUpdateManifest(text, L"");
+    EXPECT_EQ(m.version, version) << what;
+    EXPECT_EQ(m.history.size(), history) << what;
   }
 }
 
 TEST(LocalizedChangeNote, CzechEnglishThenNeutral) {
-  const struct {
-    const wchar_t* language;
-    const wchar_t *neutral, *cs, *en, *expected;
-  } cases[] = {
-      {L"cs-CZ", L"n", L"c", L"e", L"c"}, {L"cs-CZ", L"n", L"", L"e", L"n"},
-      {L"en-GB", L"n", L"c", L"e", L"e"}, {L"en-US", L"", L"c", L"", L"c"},
-      {L"de-DE", L"n", L"c", L"e", L"n"}, {L"de-DE", L"", L"c", L"e", L"e"},
-      {L"de-DE", L"", L"c", L"", L"c"},   {L"de-DE", L"", L"", L"", L""},
-  };
-  for (const auto& c : cases) {
-    AppConfig().language = c.language;
-    EXPECT_EQ(LocalizedChangeNote(c.neutral, c.cs, c.en), c.expected) << c.language;
+  // Language, the neutral, Czech and English notes, and the one shown.
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*>
+      cases[] = {{L"cs-CZ", L"n", L"c", L"e", L"c"}, {L"cs-CZ", L"n", L"", L"e", L"n"},
+                 {L"en-GB", L"n", L"c", L"e", L"e"}, {L"en-US", L"", L"c", L"", L"c"},
+                 {L"de-DE", L"n", L"c", L"e", L"n"}, {L"de-DE", L"", L"c", L"e", L"e"},
+                 {L"de-DE", L"", L"c", L"", L"c"},   {L"de-DE", L"", L"", L"", L""}};
+  for (const auto& [language, neutral, cs, en, shown] : cases) {
+    AppConfig().language = language;
+    EXPECT_EQ(LocalizedChangeNote(neutral, cs, en), shown)
+        << language << " " << neutral << cs << en;
   }
 }
 
@@ -123,5 +98,3 @@ TEST(BuildChangeNotesSinceInstalled, NewestFirstBetweenInstalledAndLatest) {
   m.history = {{L"9.0", L"any newer", L"", L""}};
   EXPECT_EQ(BuildChangeNotesSinceInstalled(m), L"9.0\nany newer");
 }
-
-}  // namespace

@@ -4,58 +4,27 @@
 
 #include "tests/support/fake_platform.h"
 
-namespace {
-
-const wchar_t kUrl[] = L"https://updates.invalid/update.json";
-
 TEST(CheckForUpdate, OutcomesAndTheirLogLines) {
-  const struct {
-    const char* what;
-    FakeHttpResponse response;
-    bool ok, available;
-    const wchar_t* error;
-    const wchar_t* log;
-  } cases[] = {
-      {"newer",
-       {true, L"{\"version\":\"1.0.120\"}", L""},
-       true,
-       true,
-       L"",
-       L"update check ok: current=1.0.112 latest=1.0.120 available"},
-      {"equal",
-       {true, L"{\"version\":\"1.0.112\",\"sha256\":\"FF\"}", L""},
-       true,
-       false,
-       L"",
-       L"update check ok: current=1.0.112 latest=1.0.112 current"},
-      {"older",
-       {true, L"{\"version\":\"1.0.99\"}", L""},
-       true,
-       false,
-       L"",
-       L"update check ok: current=1.0.112 latest=1.0.99 current"},
-      {"empty body",
-       {true, L"", L""},
-       false,
-       false,
-       L"Update manifest does not contain a version.",
-       L"update check failed: missing version"},
-      {"HTTP 404",
-       {false, L"", L"Update manifest returned HTTP status 404."},
-       false,
-       false,
-       L"Update manifest returned HTTP status 404.",
-       L"update check failed: Update manifest returned HTTP status 404."},
-  };
-  for (const auto& c : cases) {
+  const wchar_t url[] = L"https://updates.invalid/update.json";
+  const std::wstring http_404 = L"Update manifest returned HTTP status 404.";
+  // The manifest served (null: the server answers 404), then the error and the log line.
+  const std::tuple<const wchar_t*, std::wstring, std::wstring> cases[] = {
+      {L"{\"version\":\"1.0.120\"}", L"", L"ok: current=1.0.112 latest=1.0.120 available"},
+      {L"{\"version\":\"1.0.112\",\"sha256\":\"FF\"}", L"",
+       L"ok: current=1.0.112 latest=1.0.112 current"},
+      {L"{\"version\":\"1.0.99\"}", L"", L"ok: current=1.0.112 latest=1.0.99 current"},
+      {L"", L"Update manifest does not contain a version.", L"failed: missing version"},
+      {nullptr, http_404, L"failed: " + http_404}};
+  for (const auto& [body, error, log] : cases) {
     ResetFakePlatform();
-    Fake().http[kUrl] = c.response;
-    const UpdateCheckResult result = CheckForUpdateAt(kUrl, true);
-    EXPECT_TRUE(result.manual) << c.what;
-    EXPECT_EQ(result.ok, c.ok) << c.what;
-    EXPECT_EQ(result.update_available, c.available) << c.what;
-    EXPECT_EQ(result.error, c.error) << c.what;
-    EXPECT_EQ(Fake().log, std::vector<std::wstring>{c.log}) << c.what;
+    Fake().http[url] =
+        body ? FakeHttpResponse{true, body, L""} : FakeHttpResponse{false, L"", http_404};
+    const UpdateCheckResult result = CheckForUpdateAt(url, true);
+    EXPECT_TRUE(result.manual) << log;
+    EXPECT_EQ(result.ok, error.empty()) << log;
+    EXPECT_EQ(result.update_available, log.ends_with(L"available")) << log;
+    EXPECT_EQ(result.error, error) << log;
+    EXPECT_EQ(Fake().log, std::vector<std::wstring>{L"update check " + log});
   }
 }
 
@@ -64,14 +33,12 @@ TEST(UpdateCheckState, OneCheckAtATimeAndAOneDeepSlot) {
   }
   ASSERT_TRUE(BeginUpdateCheck());
   EXPECT_FALSE(BeginUpdateCheck());
-  EXPECT_TRUE(UpdateCheckRunning());
-  UpdateCheckResult first;
-  first.error = L"first";
-  StorePendingUpdateResult(first, false);  // a refresh does not end a running check
-  EXPECT_TRUE(UpdateCheckRunning());
-  UpdateCheckResult second;
-  second.error = L"second";
-  StorePendingUpdateResult(second, true);
+  UpdateCheckResult result;
+  result.error = L"first";
+  StorePendingUpdateResult(result, false);
+  EXPECT_TRUE(UpdateCheckRunning());  // a refresh does not end a running check
+  result.error = L"second";
+  StorePendingUpdateResult(result, true);
   EXPECT_FALSE(UpdateCheckRunning());
   const std::optional<UpdateCheckResult> taken = TakePendingUpdateResult();
   ASSERT_TRUE(taken);
@@ -81,5 +48,3 @@ TEST(UpdateCheckState, OneCheckAtATimeAndAOneDeepSlot) {
   StorePendingUpdateResult(UpdateCheckResult{}, true);
   TakePendingUpdateResult();
 }
-
-}  // namespace

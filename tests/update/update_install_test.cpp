@@ -6,19 +6,22 @@
 
 namespace {
 
-// Services with scripted answers that record what the worker did.
-class ScriptedServices final : public UpdateInstallServices {
- public:
-  UpdateCheckResult fresh;
-  bool download_ok = true;
-  std::wstring download_error;
-  std::vector<int> download_progress = {10, 45, 80, 82};
-  std::wstring hash = L"ABCDEF";
-  bool hash_ok = true;
-  bool launch_ok = true;
-  std::shared_ptr<UpdateInstallState> state;
+const wchar_t kRunning[] =
+    L"Setup is running silently. The app will close and reopen after installation.";
 
-  std::vector<int> progress;
+UpdateManifest Manifest(const wchar_t* version, const wchar_t* sha256,
+                        const wchar_t* setup_url = L"https://h/StayholdSetup.exe") {
+  return UpdateManifest{version, L"", setup_url, sha256, L"", L"", L"", {}};
+}
+
+// Services with scripted answers that record what the worker did.
+struct ScriptedServices final : UpdateInstallServices {
+  UpdateCheckResult fresh{false, true, true, Manifest(L"1.0.120", L"ABCDEF"), L""};
+  bool download_ok = true, hash_ok = true, launch_ok = true;
+  std::wstring download_error, hash = L"ABCDEF";
+  std::vector<int> download_progress = {10, 45, 80, 82};
+  std::shared_ptr<UpdateInstallState> state = std::make_shared<UpdateInstallState>();
+  std::vector<int> progress;  // every change the dialog was told of
   std::vector<std::wstring> events;
   int published = 0;
 
@@ -48,43 +51,15 @@ class ScriptedServices final : public UpdateInstallServices {
     std::lock_guard<std::mutex> hold(state->mutex);
     if (progress.empty() || progress.back() != state->progress) progress.push_back(state->progress);
   }
+  void Run(const UpdateManifest& cached) { RunStayholdAutoUpdate(*this, state, cached); }
 };
-
-UpdateManifest Manifest(const wchar_t* version, const wchar_t* sha256) {
-  UpdateManifest m;
-  m.version = version;
-  m.setup_url = L"https://h/StayholdSetup.exe";
-  m.sha256 = sha256;
-  return m;
-}
-
-struct Outcome {
-  bool finished, succeeded, close_app;
-  std::wstring status, detail;
-};
-
-Outcome RunWorker(ScriptedServices& services, const UpdateManifest& cached) {
-  services.state = std::make_shared<UpdateInstallState>();
-  RunStayholdAutoUpdate(services, services.state, cached);
-  std::lock_guard<std::mutex> hold(services.state->mutex);
-  return Outcome{services.state->finished, services.state->succeeded, services.state->close_app,
-                 services.state->status, services.state->detail};
-}
-
-ScriptedServices Fresh(const UpdateManifest& manifest, bool available = true) {
-  ScriptedServices services;
-  services.fresh.ok = true;
-  services.fresh.update_available = available;
-  services.fresh.manifest = manifest;
-  return services;
-}
 
 TEST(RunStayholdAutoUpdate, HappyPathInItsExactOrder) {
-  ScriptedServices services = Fresh(Manifest(L"1.0.120", L"abcdef"));  // lower case matches
-  const Outcome outcome = RunWorker(services, Manifest(L"1.0.120", L"ABCDEF"));
-  EXPECT_TRUE(outcome.finished && outcome.succeeded && outcome.close_app);
-  EXPECT_EQ(outcome.status,
-            L"Setup is running silently. The app will close and reopen after installation.");
+  ScriptedServices services;
+  services.fresh.manifest.sha256 = L"abcdef";  // the hash compares without case
+  services.Run(Manifest(L"1.0.120", L"ABCDEF"));
+  EXPECT_TRUE(services.state->finished && services.state->succeeded && services.state->close_app);
+  EXPECT_EQ(services.state->status, kRunning);
   EXPECT_EQ(services.progress, (std::vector<int>{3, 8, 10, 45, 80, 82, 86, 94, 100}));
   const std::wstring setup = L"C:\\Temp\\StayholdSetup-1.0.120.exe";
   EXPECT_EQ(services.events,
@@ -95,87 +70,68 @@ TEST(RunStayholdAutoUpdate, HappyPathInItsExactOrder) {
 }
 
 TEST(RunStayholdAutoUpdate, EndingsOfEveryStep) {
-  struct Case {
-    const char* what;
-    void (*script)(ScriptedServices&);
-    UpdateManifest cached;
-    bool succeeded;
-    const wchar_t* status;
-    const wchar_t* detail;
-    bool launched;
-  };
-  const UpdateManifest cached = Manifest(L"1.0.120", L"ABCDEF");
-  const Case cases[] = {
+  using Script = void (*)(ScriptedServices&);
+  // What goes wrong; then success, status, detail, whether the setup was launched, and where the
+  // progress bar stands at the end (a failure leaves it where it stood).
+  const std::tuple<const char*, Script, bool, const wchar_t*, const wchar_t*, bool, int> cases[] = {
       {"the refreshed check failed",
        [](ScriptedServices& s) {
-         s.fresh.ok = false;
-         s.fresh.error = L"Update manifest returned HTTP status 404.";
+         s.fresh = {false, false, false, {}, L"HTTP status 404."};
        },
-       cached, false, L"Update check failed.", L"Update manifest returned HTTP status 404.", false},
+       false, L"Update check failed.", L"HTTP status 404.", false, 3},
       {"the refreshed check failed without a text", [](ScriptedServices& s) { s.fresh.ok = false; },
-       cached, false, L"Update check failed.", L"The fresh update manifest could not be loaded.",
-       false},
+       false, L"Update check failed.", L"The fresh update manifest could not be loaded.", false, 3},
       {"the update was withdrawn", [](ScriptedServices& s) { s.fresh.update_available = false; },
-       cached, true, L"The app is current according to the fresh manifest.", L"", false},
-      {"no setup_url", [](ScriptedServices& s) { s.fresh.manifest.setup_url.clear(); }, cached,
-       false, L"Update failed.", L"The manifest does not contain setup_url.", false},
+       true, L"The app is current according to the fresh manifest.", L"", false, 100},
+      {"no setup_url", [](ScriptedServices& s) { s.fresh.manifest.setup_url.clear(); }, false,
+       L"Update failed.", L"The manifest does not contain setup_url.", false, 8},
       {"download failed",
        [](ScriptedServices& s) {
          s.download_ok = false;
          s.download_error = L"Setup download returned HTTP status 500.";
        },
-       cached, false, L"Download failed.", L"Setup download returned HTTP status 500.", false},
-      {"hash could not be computed", [](ScriptedServices& s) { s.hash_ok = false; }, cached, false,
-       L"Verification failed.", L"SHA-256 provider could not be opened.", false},
-      {"wrong hash never launches", [](ScriptedServices& s) { s.hash = L"000000"; }, cached, false,
-       L"Verification failed.", L"The downloaded setup SHA-256 does not match the manifest.",
-       false},
+       false, L"Download failed.", L"Setup download returned HTTP status 500.", false, 82},
+      {"hash could not be computed", [](ScriptedServices& s) { s.hash_ok = false; }, false,
+       L"Verification failed.", L"SHA-256 provider could not be opened.", false, 86},
+      {"wrong hash never launches", [](ScriptedServices& s) { s.hash = L"000000"; }, false,
+       L"Verification failed.", L"The downloaded setup SHA-256 does not match the manifest.", false,
+       86},
       {"empty sha256 skips the verification",
        [](ScriptedServices& s) {
          s.fresh.manifest.sha256.clear();
          s.hash = L"000000";
        },
-       cached, true,
-       L"Setup is running silently. The app will close and reopen after installation.", L"", true},
-      {"the elevation was refused", [](ScriptedServices& s) { s.launch_ok = false; }, cached, false,
-       L"Setup could not be started.", L"Silent setup could not be started.", true},
-  };
-  for (const Case& c : cases) {
-    ResetFakePlatform();
-    ScriptedServices services = Fresh(cached);
-    c.script(services);
-    const Outcome outcome = RunWorker(services, c.cached);
-    EXPECT_TRUE(outcome.finished) << c.what;
-    EXPECT_EQ(outcome.succeeded, c.succeeded) << c.what;
-    EXPECT_EQ(outcome.status, c.status) << c.what;
-    EXPECT_EQ(outcome.detail, c.detail) << c.what;
-    const bool launched =
-        !services.events.empty() && services.events.back().compare(0, 6, L"launch") == 0;
-    EXPECT_EQ(launched, c.launched) << c.what;
-    EXPECT_EQ(outcome.close_app, c.launched && c.succeeded) << c.what;
-    EXPECT_EQ(services.published, 1) << c.what;  // the tray follows the fresh truth regardless
+       true, kRunning, L"", true, 100},
+      {"the elevation was refused", [](ScriptedServices& s) { s.launch_ok = false; }, false,
+       L"Setup could not be started.", L"Silent setup could not be started.", true, 94}};
+  for (const auto& [what, script, succeeded, status, detail, launched, progress] : cases) {
+    ScriptedServices services;
+    script(services);
+    services.Run(Manifest(L"1.0.120", L"ABCDEF"));
+    const UpdateInstallState& state = *services.state;
+    EXPECT_TRUE(state.finished) << what;
+    EXPECT_EQ(state.succeeded, succeeded) << what;
+    EXPECT_EQ(state.status, status) << what;
+    EXPECT_EQ(state.detail, detail) << what;
+    EXPECT_EQ(!services.events.empty() && services.events.back().starts_with(L"launch"), launched)
+        << what;
+    EXPECT_EQ(state.close_app, launched && succeeded) << what;
+    EXPECT_EQ(state.progress, progress) << what;
+    EXPECT_EQ(services.published, 1) << what;  // the tray follows the fresh truth regardless
   }
 }
 
-TEST(RunStayholdAutoUpdate, AFailureLeavesTheProgressWhereItStood) {
-  ScriptedServices services = Fresh(Manifest(L"1.0.120", L"ABCDEF"));
-  services.hash = L"000000";
-  RunWorker(services, Manifest(L"1.0.120", L"ABCDEF"));
-  EXPECT_EQ(services.state->progress, 86);
-}
-
 TEST(RunStayholdAutoUpdate, UnknownLengthShowsNoMovementInTheDownload) {
-  ScriptedServices services = Fresh(Manifest(L"1.0.120", L""));
+  ScriptedServices services;
   services.download_progress = {82};
-  RunWorker(services, Manifest(L"1.0.120", L""));
+  services.Run(Manifest(L"1.0.120", L"ABCDEF"));
   EXPECT_EQ(services.progress, (std::vector<int>{3, 8, 82, 86, 94, 100}));
 }
 
 TEST(RunStayholdAutoUpdate, ARefreshedManifestReplacesTheCachedOneAndIsLogged) {
-  UpdateManifest refreshed = Manifest(L"1.0.121", L"ABCDEF");
-  refreshed.setup_url = L"https://h/new.exe";
-  ScriptedServices services = Fresh(refreshed);
-  RunWorker(services, Manifest(L"1.0.120", L"abcdef"));
+  ScriptedServices services;
+  services.fresh.manifest = Manifest(L"1.0.121", L"ABCDEF", L"https://h/new.exe");
+  services.Run(Manifest(L"1.0.120", L"abcdef"));
   EXPECT_EQ(services.events.front(),
             L"download https://h/new.exe -> C:\\Temp\\StayholdSetup-1.0.121.exe");
   EXPECT_EQ(Fake().log,
@@ -183,12 +139,16 @@ TEST(RunStayholdAutoUpdate, ARefreshedManifestReplacesTheCachedOneAndIsLogged) {
                                       L"latest=1.0.121 setup_or_hash_changed"});
 }
 
-TEST(UpdateInstallHelpers, PercentParametersAndPath) {
+TEST(UpdateInstallHelpers, PercentProgressParametersAndPath) {
   EXPECT_EQ(DownloadPercent(0, 1000), 10);
   EXPECT_EQ(DownloadPercent(500, 1000), 45);
-  EXPECT_EQ(DownloadPercent(1000, 1000), 80);
   EXPECT_EQ(DownloadPercent(3000, 1000), 220);  // a short length overshoots; the state clamps
   EXPECT_EQ(DownloadPercent(4000000000u, 4000000000u), 80);  // 64-bit multiplication
+  ScriptedServices services;
+  SetUpdateProgress(*services.state, services, 220, L"x");
+  EXPECT_EQ(services.state->progress, 100);
+  SetUpdateProgress(*services.state, services, -5, L"x");
+  EXPECT_EQ(services.state->progress, 0);
   EXPECT_EQ(SilentSetupParameters(L"D:\\Apps\\Stayhold"),
             L"--install --quiet --preserve-options --restart-app --settings --install-dir "
             L"\"D:\\Apps\\Stayhold\"");
@@ -196,15 +156,6 @@ TEST(UpdateInstallHelpers, PercentParametersAndPath) {
             L"--install --quiet --preserve-options --restart-app --settings");
   EXPECT_EQ(DownloadedSetupPath(L"C:\\Temp", L"1.0.120 beta"),
             L"C:\\Temp\\StayholdSetup-1.0.120 beta.exe");
-}
-
-TEST(SetUpdateProgress, ClampsToZeroAndHundred) {
-  ScriptedServices services;
-  services.state = std::make_shared<UpdateInstallState>();
-  SetUpdateProgress(*services.state, services, 220, L"x");
-  EXPECT_EQ(services.state->progress, 100);
-  SetUpdateProgress(*services.state, services, -5, L"x");
-  EXPECT_EQ(services.state->progress, 0);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -28,12 +29,7 @@ std::wstring Http(const wchar_t* path) {
 
 TEST(FetchUpdateManifest, OutcomesOverRealHttp) {
   ASSERT_FALSE(Env(L"STAYHOLD_TEST_HTTP").empty()) << "run through update_scenario.sh";
-  const struct {
-    const wchar_t* path;
-    bool ok, available;
-    const wchar_t* version;
-    const wchar_t* error;
-  } cases[] = {
+  const std::tuple<const wchar_t*, bool, bool, const wchar_t*, const wchar_t*> cases[] = {
       {L"/newer.json", true, true, L"1.0.999", L""},
       {L"/equal.json", true, false, L"1.0.112", L""},
       {L"/older.json", true, false, L"1.0.99", L""},
@@ -41,24 +37,23 @@ TEST(FetchUpdateManifest, OutcomesOverRealHttp) {
       {L"/history_first.json", true, true, L"1.0.500", L""},
       {L"/invalid.json", false, false, L"", L"Update manifest is not valid UTF-8."},
       {L"/empty.json", false, false, L"", L"Update manifest does not contain a version."},
-      {L"/status/404", false, false, L"", L"Update manifest returned HTTP status 404."},
-  };
-  for (const auto& c : cases) {
-    const UpdateCheckResult result = CheckForUpdateAt(Http(c.path), true);
-    EXPECT_EQ(result.ok, c.ok) << c.path;
-    EXPECT_EQ(result.update_available, c.available) << c.path;
-    EXPECT_EQ(result.manifest.version, c.version) << c.path;
-    EXPECT_EQ(result.error, c.error) << c.path;
+      {L"/status/404", false, false, L"", L"Update manifest returned HTTP status 404."}};
+  for (const auto& [path, ok, available, version, error] : cases) {
+    const UpdateCheckResult result = CheckForUpdateAt(Http(path), true);
+    EXPECT_EQ(result.ok, ok) << path;
+    EXPECT_EQ(result.update_available, available) << path;
+    EXPECT_EQ(result.manifest.version, version) << path;
+    EXPECT_EQ(result.error, error) << path;
   }
-}
-
-TEST(FetchUpdateManifest, ReaderEffectsSurviveTheTransport) {
   const UpdateCheckResult versions = CheckForUpdateAt(Http(L"/versions.json"), false);
-  ASSERT_TRUE(versions.ok);
   ASSERT_EQ(versions.manifest.history.size(), 2u);
   EXPECT_EQ(versions.manifest.history[0].version, L"1.0.150");
   EXPECT_EQ(versions.manifest.changes_cs, L"\u010Cesk\u00E1 pozn\u00E1mka");  // UTF-8 decoded
   EXPECT_EQ(versions.manifest.changes, L"literal u0041");                     // \u is not decoded
+  const UpdateCheckResult https =
+      CheckForUpdateAt(Env(L"STAYHOLD_TEST_HTTPS") + L"/newer.json", true);
+  EXPECT_TRUE(https.ok) << "a trusted loopback certificate: " << https.error;
+  EXPECT_EQ(https.manifest.version, L"1.0.999");
 }
 
 TEST(FetchUpdateManifest, RefusedConnectionAndStall) {
@@ -83,42 +78,41 @@ TEST(FetchUpdateManifest, RefusedConnectionAndStall) {
   EXPECT_LT(GetTickCount() - start, 10000u);
 }
 
-TEST(FetchUpdateManifest, HttpsWithATrustedLoopbackCertificate) {
-  const std::wstring https = Env(L"STAYHOLD_TEST_HTTPS");
-  ASSERT_FALSE(https.empty());
-  const UpdateCheckResult result = CheckForUpdateAt(https + L"/newer.json", true);
-  EXPECT_TRUE(result.ok) << result.error;
-  EXPECT_EQ(result.manifest.version, L"1.0.999");
-}
-
 TEST(HashFileSha256, MatchesTheSumComputedOutside) {
   std::wstring hex, error;
   ASSERT_TRUE(HashFileSha256(Env(L"STAYHOLD_TEST_SETUP_PATH"), hex, error)) << error;
   std::wstring expected = Env(L"STAYHOLD_TEST_SETUP_SHA256");
-  for (wchar_t& c : expected)
-    c = static_cast<wchar_t>(towupper(c));
+  std::transform(expected.begin(), expected.end(), expected.begin(), towupper);
   EXPECT_EQ(hex, expected);
   EXPECT_FALSE(HashFileSha256(L"C:\\no\\such\\file.exe", hex, error));
   EXPECT_EQ(error, L"Downloaded setup could not be opened for hash check.");
 }
 
-std::wstring FakeSetupRecord() {
-  wchar_t temp[MAX_PATH] = {};
-  GetTempPathW(MAX_PATH, temp);
-  return std::wstring(temp) + L"stayhold_fake_setup_args.txt";
+// The command line the stand-in setup records.
+std::filesystem::path SetupRecordPath() {
+  return std::filesystem::temp_directory_path() / L"stayhold_fake_setup_args.txt";
 }
 
-std::string ReadRecord() {
-  std::ifstream file(std::filesystem::path(FakeSetupRecord()), std::ios::binary);
+std::string SetupRecord() {
+  std::ifstream file(SetupRecordPath(), std::ios::binary);
   std::stringstream text;
   text << file.rdbuf();
   return text.str();
 }
 
+void WaitForSetupRecord() {
+  for (int i = 0; i < 100 && SetupRecord().empty(); ++i)
+    Sleep(50);
+}
+
 // The real services, with every progress report recorded.
 class RecordingServices final : public UpdateInstallServices {
  public:
-  explicit RecordingServices(const std::wstring& manifest_url) : real_(nullptr, manifest_url) {}
+  explicit RecordingServices(const wchar_t* manifest) : real_(nullptr, Http(manifest)) {
+    UpdateManifest cached;
+    cached.version = L"1.0.999";
+    RunStayholdAutoUpdate(*this, state, cached);
+  }
   std::shared_ptr<UpdateInstallState> state = std::make_shared<UpdateInstallState>();
   std::vector<int> progress;
   bool launched = false;
@@ -135,11 +129,12 @@ class RecordingServices final : public UpdateInstallServices {
   }
   bool LaunchSilentSetup(const std::wstring& path, std::wstring& error) override {
     launched = true;
-    DeleteFileW(FakeSetupRecord().c_str());
+    std::error_code ignored;
+    std::filesystem::remove(
+        std::filesystem::temp_directory_path() / L"stayhold_fake_setup_args.txt", ignored);
     const bool ok = real_.LaunchSilentSetup(path, error);
     // Let the stand-in finish, so that the next download may overwrite its file.
-    for (int i = 0; ok && i < 100 && ReadRecord().empty(); ++i)
-      Sleep(50);
+    if (ok) WaitForSetupRecord();
     Sleep(200);
     return ok;
   }
@@ -152,57 +147,30 @@ class RecordingServices final : public UpdateInstallServices {
   SystemUpdateInstallServices real_;
 };
 
-UpdateManifest Cached(const wchar_t* version) {
-  UpdateManifest manifest;
-  manifest.version = version;
-  return manifest;
-}
-
-bool IsIncreasing(const std::vector<int>& values) {
-  for (size_t i = 1; i < values.size(); ++i) {
-    if (values[i] < values[i - 1]) return false;
-  }
-  return true;
-}
-
 TEST(RunStayholdAutoUpdate, DownloadsVerifiesAndStartsTheSetupSilently) {
-  RecordingServices services(Http(L"/install.json"));  // lower-case sha256 in the manifest
-  RunStayholdAutoUpdate(services, services.state, Cached(L"1.0.999"));
+  RecordingServices services(L"/install.json");  // lower-case sha256 in the manifest
   EXPECT_TRUE(services.state->succeeded) << services.state->detail;
   EXPECT_TRUE(services.state->close_app);
-  ASSERT_GE(services.progress.size(), 7u);
-  EXPECT_EQ(services.progress[0], 3);
-  EXPECT_EQ(services.progress[1], 8);
-  EXPECT_GE(services.progress[2], 10);
-  EXPECT_TRUE(IsIncreasing(services.progress));
-  const std::vector<int> tail(services.progress.end() - 4, services.progress.end());
-  EXPECT_EQ(tail, (std::vector<int>{82, 86, 94, 100}));
-  for (size_t i = 2; i + 4 < services.progress.size(); ++i) {
-    EXPECT_LE(services.progress[i], 80) << i;  // the download spans 10 to 80
-  }
-  // The stand-in setup records its command line; wait for it to run.
-  for (int i = 0; i < 100 && ReadRecord().empty(); ++i)
-    Sleep(50);
-  const std::string record = ReadRecord();
-  EXPECT_NE(record.find("--install --quiet --preserve-options --restart-app --settings "
-                        "--install-dir \"C:\\Program Files\\Stayhold\""),
-            std::string::npos)
-      << record;
-  EXPECT_EQ(record.size() - record.find("--install --quiet"),
-            std::string("--install --quiet --preserve-options --restart-app --settings "
-                        "--install-dir \"C:\\Program Files\\Stayhold\"")
-                .size())
+  const std::vector<int>& progress = services.progress;
+  ASSERT_GE(progress.size(), 7u);
+  EXPECT_EQ(progress[0], 3);
+  EXPECT_EQ(progress[1], 8);
+  EXPECT_TRUE(std::is_sorted(progress.begin(), progress.end()));
+  EXPECT_EQ(std::vector<int>(progress.end() - 4, progress.end()),
+            (std::vector<int>{82, 86, 94, 100}));
+  // The download spans 10 to 80.
+  EXPECT_GE(progress[2], 10);
+  EXPECT_LE(progress[progress.size() - 5], 80);
+  WaitForSetupRecord();
+  const std::string record = SetupRecord();
+  EXPECT_TRUE(
+      record.ends_with("--install --quiet --preserve-options --restart-app --settings "
+                       "--install-dir \"C:\\Program Files\\Stayhold\""))
       << record;
 }
 
 TEST(RunStayholdAutoUpdate, EndingsOverRealHttp) {
-  const struct {
-    const wchar_t* manifest;
-    bool succeeded;
-    const wchar_t* status;
-    const wchar_t* detail;
-    bool launched;
-  } cases[] = {
+  const std::tuple<const wchar_t*, bool, const wchar_t*, const wchar_t*, bool> cases[] = {
       {L"/install_wrong_hash.json", false, L"Verification failed.",
        L"The downloaded setup SHA-256 does not match the manifest.", false},
       {L"/released.json", true,
@@ -212,21 +180,18 @@ TEST(RunStayholdAutoUpdate, EndingsOverRealHttp) {
       {L"/withdrawn.json", true, L"The app is current according to the fresh manifest.", L"",
        false},
       {L"/install_missing_setup.json", false, L"Download failed.",
-       L"Setup download returned HTTP status 404.", false},
-  };
-  for (const auto& c : cases) {
-    RecordingServices services(Http(c.manifest));
-    RunStayholdAutoUpdate(services, services.state, Cached(L"1.0.999"));
-    EXPECT_EQ(services.state->succeeded, c.succeeded) << c.manifest;
-    EXPECT_EQ(services.state->status, c.status) << c.manifest;
-    EXPECT_EQ(services.state->detail, c.detail) << c.manifest;
-    EXPECT_EQ(services.launched, c.launched) << c.manifest;
+       L"Setup download returned HTTP status 404.", false}};
+  for (const auto& [manifest, succeeded, status, detail, launched] : cases) {
+    RecordingServices services(manifest);
+    EXPECT_EQ(services.state->succeeded, succeeded) << manifest;
+    EXPECT_EQ(services.state->status, status) << manifest;
+    EXPECT_EQ(services.state->detail, detail) << manifest;
+    EXPECT_EQ(services.launched, launched) << manifest;
   }
 }
 
 TEST(RunStayholdAutoUpdate, UnknownLengthShowsNoMovementBetween10And82) {
-  RecordingServices services(Http(L"/install_no_length.json"));
-  RunStayholdAutoUpdate(services, services.state, Cached(L"1.0.999"));
+  RecordingServices services(L"/install_no_length.json");
   EXPECT_TRUE(services.state->succeeded) << services.state->detail;
   EXPECT_EQ(services.progress, (std::vector<int>{3, 8, 82, 86, 94, 100}));
 }
