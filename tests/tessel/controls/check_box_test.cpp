@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "tessel/skin/style_sheet.h"
 #include "tests/tessel/controls/control_fixtures.h"
 
 namespace tessel {
@@ -74,7 +75,7 @@ TEST(CheckBox, TheBoxSitsOnePixelInCentredAndTheMarkShowsWhenChecked) {
   EXPECT_EQ(PixelAt(image, 14, 14), kBoxChecked);
 }
 
-TEST(CheckBox, StateRoundTripsSilentlyAndLongTextIsClipped) {
+TEST(CheckBox, StateRoundTripsSilentlyLongTextIsClippedAndASkinNeedsTheId) {
   CheckBox box = Make();
   box.setChecked(true);
   ControlState state;
@@ -91,6 +92,8 @@ TEST(CheckBox, StateRoundTripsSilentlyAndLongTextIsClipped) {
   // 26 pixels go to the box; 9 points estimate 6 pixels a character.
   EXPECT_EQ(Make(L"REMEMBER ME", 26 + 30).clippedText(), L"REMEMBER ME");
   EXPECT_EQ(Make(L"REMEMBER ME", 26 + 80).clippedText(), L"");
+  EXPECT_FALSE(applyStyleId(StyleSheet{Theme{}}, box, L"missing"));
+  EXPECT_TRUE(applyStyleId(StyleSheet{Theme{}}, box, L"default"));
 }
 
 }  // namespace

@@ -46,6 +46,7 @@ TEST(ChromeTitleBar, ButtonsFromTheRightThenHeaderActionsThenTheTitle) {
   for (int32_t i = 1; i < 4; ++i)
     bar.setHeaderAction(i, {}, L"Action", nullptr);
   EXPECT_EQ(bar.button(kChromeHeaderAction0 + 3).bounds().x, 158 - 3 * 52);
+  EXPECT_EQ(bar.partAt(Point{10, 10}), kChromeHeaderAction0 + 3);
   EXPECT_EQ(bar.titleRect().width, 0);  // the actions ran over it: nothing is left
 }
 

@@ -26,6 +26,8 @@ TEST(Label, AlignsTheLineAndPaintsMarkupWithoutItsMarks) {
     EXPECT_EQ(first, left) << alignment;
     EXPECT_EQ(last, left + 10) << alignment;
   }
+  // Text of several spans is placed span by span, yet ends at the right edge all the same.
+  EXPECT_EQ(ColumnsOf(Painted(L"**A**B", kAlignRight), kText).second, 99);
   // The stand-in font has no bold, so bold text paints as plain text does; as plain text the
   // stars are drawn.
   EXPECT_TRUE(CompareImages(Painted(L"**AB** CD"), Painted(L"AB CD"), "label", 0));
