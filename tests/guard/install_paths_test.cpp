@@ -24,6 +24,7 @@ TEST(ComputeInstallPaths, FailsWithoutAFolderAKnownFolderOrOnOverflowAnywhere) {
   EXPECT_FALSE(ComputeInstallPaths(L"  ", paths));
   Fake().known_folders[KnownFolder::LocalAppData] = L"C:\\" + std::wstring(240, L'l');
   EXPECT_FALSE(ComputeInstallPaths(L"C:\\Program Files\\Stayhold", paths));
+  ResetFakePlatform();
   Fake().known_folders.erase(KnownFolder::CommonPrograms);
   EXPECT_FALSE(ComputeInstallPaths(L"C:\\Program Files\\Stayhold", paths));
 }
