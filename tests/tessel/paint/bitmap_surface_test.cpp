@@ -202,7 +202,7 @@ TEST(TintKey, EveryFieldCountsButUnusedPaletteEntriesDoNot) {
     change.change(changed);
     EXPECT_TRUE(keys.insert(tintKey(changed)).second) << change.what;
   }
-  base.palette[5] = rgbColor(9, 9, 9);
+  base.palette[2] = rgbColor(9, 9, 9);  // the first entry beyond the count
   EXPECT_EQ(keys.count(tintKey(base)), 1u);
 }
 
@@ -281,8 +281,9 @@ TEST(NineSlice, MarginsBeyondTheImageOrBelowZero) {
 
 TEST(NineSlice, NoBlendEverGetsASizeBelowOneOrLeavesTheTarget) {
   Image image = Image::blank(12, 9), ground = Image::blank(1, 1);
-  const NineSlice slices[] = {{0, 0, 0, 0},   {3, 2, 4, 3},     {6, 4, 6, 5},
-                              {12, 9, 12, 9}, {20, 20, 20, 20}, {-3, 5, -1, 2}};
+  const NineSlice slices[] = {
+      {0, 0, 0, 0},     {3, 2, 4, 3},   {6, 4, 6, 5}, {12, 9, 12, 9},
+      {20, 20, 20, 20}, {-3, 5, -1, 2}, {11, 8, 0, 0}};  // a middle of one pixel
   for (const NineSlice& slice : slices) {
     for (int32_t width = -2; width <= 16; ++width) {
       for (int32_t height = -2; height <= 14; ++height) {

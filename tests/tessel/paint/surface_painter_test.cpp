@@ -99,8 +99,9 @@ TEST(SurfacePainter, BorderAloneIsARectangularFrameAndOutlineAndNoiseNeedNoBase)
   s.shape = ShapeKind::Capsule;
   s.border = rgbColor(9, 9, 9);
   const Image frame = Paint(s, {20, 20}, {2, 2, 16, 10});
-  EXPECT_EQ(ColorAt(frame, 2, 2), s.border);  // the corner a capsule wouldn't have
-  EXPECT_EQ(ColorAt(frame, 17, 11), s.border);
+  EXPECT_EQ(ColorAt(frame, 2, 2), s.border);   // the corner a capsule wouldn't have
+  EXPECT_EQ(ColorAt(frame, 8, 11), s.border);  // the bottom edge
+  EXPECT_EQ(ColorAt(frame, 17, 6), s.border);  // the right edge
   EXPECT_EQ(frame.alphaAt(8, 6), 0);
 
   s.drawBorder = false;
