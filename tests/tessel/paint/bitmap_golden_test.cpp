@@ -1,5 +1,5 @@
 // After a deliberate change, regenerate from the project root (see golden/README.txt):
-//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/stayhold_tests --gtest_filter='BitmapGolden.*'
+//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/tessel_tests --gtest_filter='BitmapGolden.*'
 #include <algorithm>
 #include <array>
 #include <functional>

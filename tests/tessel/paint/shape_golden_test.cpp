@@ -1,5 +1,5 @@
 // After a deliberate change, regenerate from the project root (see golden/README.txt):
-//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/stayhold_tests --gtest_filter='ShapeGolden.*'
+//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/tessel_tests --gtest_filter='ShapeGolden.*'
 #include <filesystem>
 #include <string>
 

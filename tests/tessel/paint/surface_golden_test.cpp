@@ -2,7 +2,7 @@
 // surfaces/): every shape with all layers a plain surface has (glow, shadow, gradient with a
 // middle stop, border, outline), every gradient kind in every direction, and segmented bodies.
 // Regenerate from the project root after a deliberate change and look at the sheets:
-//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/stayhold_tests --gtest_filter='SurfaceGolden.*'
+//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/tessel_tests --gtest_filter='SurfaceGolden.*'
 #include <gtest/gtest.h>
 
 #include "tessel/paint/image_canvas.h"
