@@ -66,6 +66,8 @@ BitmapTint greyPalette(int count, uint8_t threshold = 0) {
 // B, G, R, A). The modes at their usual settings are golden images (bitmap_golden_test.cpp);
 // these are the settings those leave out.
 TEST(TintedImage, SettingsByHand) {
+  using M = TintMode;
+  using C = MaskChannel;
   const struct {
     const char* what;
     Bgra source;
@@ -73,39 +75,27 @@ TEST(TintedImage, SettingsByHand) {
     Bgra expected;
   } kCases[] = {
       // o = (255 * c + 127) / 255 = c; w = 1.
-      {"mono replaces the colour", kOpaque, tintOf(TintMode::Mono), {240, 160, 40, 255}},
+      {"mono replaces the colour", kOpaque, tintOf(M::Mono), {240, 160, 40, 255}},
       // w = 128/255: 200-160w = 119.69, 100+60w = 130.12, 50+190w = 145.37.
-      {"mono at half amount mixes", kOpaque, tintOf(TintMode::Mono, 128), {145, 130, 120, 255}},
+      {"mono at half amount", kOpaque, tintOf(M::Mono, 128), {145, 130, 120, 255}},
       // Source 199, 100, 50 (25 * 255 / 128 = 49.8 -> 50); w = 1/255: 198.38, 100.24, 50.75 ->
       // 198, 100, 51; premultiplied by 128: 99, 50, 26.
-      {"mono at amount 1, half covered", kHalf, tintOf(TintMode::Mono, 1), {26, 50, 99, 128}},
+      {"mono at amount 1, half covered", kHalf, tintOf(M::Mono, 1), {26, 50, 99, 128}},
       // m = red 200: (200*40+127)/255 = 31, (200*160+127)/255 = 125, (200*240+127)/255 = 188.
-      {"mono keeps shading by the red mask",
-       kOpaque,
-       tintOf(TintMode::Mono, 255, MaskChannel::Red, true),
-       {188, 125, 31, 255}},
+      {"mono shaded by red", kOpaque, tintOf(M::Mono, 255, C::Red, true), {188, 125, 31, 255}},
       // m = blue 50: (50*40+127)/255 = 8, (50*160+127)/255 = 31, (50*240+127)/255 = 47.
-      {"mono by the blue mask",
-       kOpaque,
-       tintOf(TintMode::Mono, 255, MaskChannel::Blue, true),
-       {47, 31, 8, 255}},
+      {"mono shaded by blue", kOpaque, tintOf(M::Mono, 255, C::Blue, true), {47, 31, 8, 255}},
       // m = 255 - luma 124 = 131, whatever the channel: (131*40+127)/255 = 21, 82, 123.
-      {"luma mode with an inverted mask",
-       kOpaque,
-       tintOf(TintMode::Luma, 255, MaskChannel::Red, true, true),
-       {123, 82, 21, 255}},
+      {"luma inverted", kOpaque, tintOf(M::Luma, 255, C::Red, true, true), {123, 82, 21, 255}},
       // m = green 100, w = 100/255: 200-160w = 137.25, 100+60w = 123.53, 50+190w = 124.51.
-      {"tint weighs by the green mask",
-       kOpaque,
-       tintOf(TintMode::Tint, 255, MaskChannel::Green),
-       {125, 124, 137, 255}},
+      {"tint weighed by green", kOpaque, tintOf(M::Tint, 255, C::Green), {125, 124, 137, 255}},
       {"a threshold equal to alpha keeps the pixel",
        kHalf,
-       tintOf(TintMode::Mono, 255, MaskChannel::Alpha, false, false, 128),
+       tintOf(M::Mono, 255, C::Alpha, false, false, 128),
        {120, 80, 20, 128}},
       {"below the threshold: transparent black, not untinted",
        kHalf,
-       tintOf(TintMode::Multiply, 1, MaskChannel::Alpha, false, false, 129),
+       tintOf(M::Multiply, 1, C::Alpha, false, false, 129),
        {0, 0, 0, 0}},
   };
   for (const auto& c : kCases)
