@@ -1,6 +1,8 @@
 // After a deliberate change, regenerate from the project root (see golden/README.txt):
-//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/stayhold_tests --gtest_filter='BitmapGolden.*'
+//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/tessel_tests --gtest_filter='BitmapGolden.*'
 #include <algorithm>
+#include <array>
+#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -16,82 +18,45 @@ namespace {
 
 const std::string kFolder = "tests/tessel/paint/golden/bitmaps/";
 
-// A 24 x 18 plate with margins of 7 and 5: four differently coloured rounded corners, striped
-// edges (so that stretching shows), and a translucent middle with a diagonal gradient.
-const NineSlice kPlateSlice{7, 5, 7, 5};
-
-Image plateImage() {
-  const int32_t width = 24, height = 18;
-  std::vector<uint8_t> rgba(size_t(width) * height * 4);
-  for (int32_t y = 0; y < height; ++y) {
-    for (int32_t x = 0; x < width; ++x) {
-      uint8_t* p = rgba.data() + (size_t(y) * width + x) * 4;
-      const bool left = x < kPlateSlice.left, right = x >= width - kPlateSlice.right;
-      const bool top = y < kPlateSlice.top, bottom = y >= height - kPlateSlice.bottom;
-      int r = 0, g = 0, b = 0, a = 255;
-      if ((left || right) && (top || bottom)) {
-        // Corners: each its own colour, rounded off with a radius of 5 at the outside.
-        const int cx = left ? 5 : width - 6, cy = top ? 5 : height - 6;
-        const int dx = left ? std::max(cx - x, 0) : std::max(x - cx, 0);
-        const int dy = top ? std::max(cy - y, 0) : std::max(y - cy, 0);
-        if (dx * dx + dy * dy > 25) a = 0;
-        r = left ? 230 : 60;
-        g = top ? 200 : 90;
-        b = right ? 220 : 40;
-      } else if (left || right || top || bottom) {
-        // Edges: stripes across the direction in which the edge stretches.
-        const bool stripe = ((top || bottom) ? x : y) % 2 == 0;
-        r = stripe ? 255 : 120;
-        g = stripe ? 237 : 110;
-        b = stripe ? 184 : 90;
-      } else {
-        r = 40 + 8 * x;
-        g = 110 + 6 * y;
-        b = 190;
-        a = 200;
-      }
-      p[0] = uint8_t(r);
-      p[1] = uint8_t(g);
-      p[2] = uint8_t(b);
-      p[3] = uint8_t(a);
-    }
-  }
+// An image of straight R, G, B, A given pixel by pixel.
+Image straightImage(int32_t width, int32_t height,
+                    const std::function<std::array<int, 4>(int32_t x, int32_t y)>& pixel) {
+  std::vector<uint8_t> rgba;
+  for (int32_t y = 0; y < height; ++y)
+    for (int32_t x = 0; x < width; ++x)
+      for (int c : pixel(x, y))
+        rgba.push_back(uint8_t(c));
   return imageFromStraightRgba(width, height, rgba);
 }
 
 TEST(BitmapGolden, NineSlicePlateAtThreeSizes) {
-  const Image plate = plateImage();
+  // A 24 x 18 plate with margins of 7 and 5: four differently coloured corners rounded with a
+  // radius of 5 at the outside, edges striped across the way they stretch (so that stretching
+  // shows), and a translucent middle with a diagonal gradient.
+  const NineSlice slice{7, 5, 7, 5};
+  const Image plate = straightImage(24, 18, [](int32_t x, int32_t y) -> std::array<int, 4> {
+    const bool left = x < 7, right = x >= 17, top = y < 5, bottom = y >= 13;
+    if ((left || right) && (top || bottom)) {
+      const int dx = left ? std::max(5 - x, 0) : std::max(x - 18, 0);
+      const int dy = top ? std::max(5 - y, 0) : std::max(y - 12, 0);
+      return {left ? 230 : 60, top ? 200 : 90, right ? 220 : 40, dx * dx + dy * dy > 25 ? 0 : 255};
+    }
+    if (left || right || top || bottom) {
+      const bool stripe = ((top || bottom) ? x : y) % 2 == 0;
+      return {stripe ? 255 : 120, stripe ? 237 : 110, stripe ? 184 : 90, 255};
+    }
+    return {40 + 8 * x, 110 + 6 * y, 190, 200};
+  });
   for (const Size size : {Size{64, 40}, Size{24, 18}, Size{10, 8}}) {
     // Over a dark ground, at a slight transparency, with a two-pixel border that stays empty.
     Image sheet = Image::blank(size.width + 4, size.height + 4);
     ImageCanvas canvas(sheet);
     canvas.fillRect({0, 0, sheet.width, sheet.height}, rgbColor(0x18, 0x1C, 0x24));
-    drawImageNineSlice(canvas, plate, {2, 2, size.width, size.height}, kPlateSlice, BitmapTint(),
-                       230);
+    drawImageNineSlice(canvas, plate, {2, 2, size.width, size.height}, slice, BitmapTint(), 230);
     const std::string file = kFolder + "plate_" + std::to_string(size.width) + "x" +
                              std::to_string(size.height) + ".pam";
     EXPECT_TRUE(MatchesGoldenImage(sheet, file, 0)) << file;
   }
-}
-
-// 16 x 16: hue across, brightness down, an alpha ramp in the last four rows (the last below the
-// threshold of 16 used below) and a transparent 2 x 2 corner.
-Image tintSource() {
-  const int32_t side = 16;
-  std::vector<uint8_t> rgba(size_t(side) * side * 4);
-  for (int32_t y = 0; y < side; ++y) {
-    for (int32_t x = 0; x < side; ++x) {
-      uint8_t* p = rgba.data() + (size_t(y) * side + x) * 4;
-      const int shade = 255 - y * 10;
-      p[0] = uint8_t(shade * (15 - x) / 15);
-      p[1] = uint8_t(shade * (x < 8 ? x : 15 - x) / 7);
-      p[2] = uint8_t(shade * x / 15);
-      const int alphas[4] = {192, 128, 64, 8};
-      p[3] = y < 12 ? 255 : uint8_t(alphas[y - 12]);
-      if (x < 2 && y < 2) p[3] = 0;
-    }
-  }
-  return imageFromStraightRgba(side, side, rgba);
 }
 
 BitmapTint tint(TintMode mode, Color color, MaskChannel channel, bool preserve,
@@ -107,7 +72,15 @@ BitmapTint tint(TintMode mode, Color color, MaskChannel channel, bool preserve,
 }
 
 TEST(BitmapGolden, EachTintModeOnATestImage) {
-  const Image source = tintSource();
+  // 16 x 16: hue across, brightness down, an alpha ramp in the last four rows (the last below
+  // the threshold of 16) and a transparent 2 x 2 corner.
+  const Image source = straightImage(16, 16, [](int32_t x, int32_t y) -> std::array<int, 4> {
+    const int shade = 255 - y * 10, alphas[4] = {192, 128, 64, 8};
+    return {shade * (15 - x) / 15, shade * (x < 8 ? x : 15 - x) / 7, shade * x / 15,
+            x < 2 && y < 2 ? 0
+            : y < 12       ? 255
+                           : alphas[y - 12]};
+  });
   BitmapTint palette = tint(TintMode::Palette, 0, MaskChannel::Luma, false);
   palette.paletteCount = 4;
   palette.palette[0] = rgbColor(0x10, 0x20, 0x30);

@@ -10,53 +10,34 @@
 namespace tessel {
 namespace {
 
-// A row written as stretches: 't' transparent, 'R'/'B' opaque red/blue, 'h' half-transparent,
-// one letter per pixel.
-Image RowImage(const std::string& pixels) {
-  Image image = Image::blank(int32_t(pixels.size()), 1);
-  for (size_t x = 0; x < pixels.size(); ++x) {
-    uint8_t* p = image.pixel(int32_t(x), 0);
-    switch (pixels[x]) {
-      case 'R':
-        p[2] = 255, p[3] = 255;
-        break;
-      case 'B':
-        p[0] = 255, p[3] = 255;
-        break;
-      case 'h':
-        p[1] = 60, p[3] = 128;
-        break;
-      default:
-        break;
-    }
-  }
-  return image;
-}
-
-constexpr uint32_t kRed = 0xFFFF0000u;
-constexpr uint32_t kBlue = 0xFF0000FFu;
-
-struct RunCase {
-  const char* what;
-  std::string row;
-  std::vector<LayerRun> runs;
-};
-
+// One letter a pixel: 't' transparent, 'R'/'B' opaque red/blue, 'h' half-transparent green.
 TEST(FindLayerRuns, RowsBecomeFillsBlendsAndGaps) {
-  const RunCase cases[] = {
+  constexpr uint32_t kRed = 0xFFFF0000u, kBlue = 0xFF0000FFu;
+  const struct {
+    const char* what;
+    std::string row;
+    std::vector<LayerRun> runs;
+  } kCases[] = {
       {"all transparent", "tttttttttttt", {}},
-      {"one long colour", "RRRRRRRRRR", {{0, 0, 10, kRed}}},
-      {"short colour is blended", "ttRRRRtt", {{0, 2, 6, 0}}},
+      {"one long colour", "RRRRRRRR", {{0, 0, 8, kRed}}},
+      {"short colour is blended", "ttRRRRRRRtt", {{0, 2, 9, 0}}},
       {"edges blended, middle filled",
-       "hRRRRRRRRRRh",
-       {{0, 0, 1, 0}, {0, 1, 11, kRed}, {0, 11, 12, 0}}},
+       "hRRRRRRRRh",
+       {{0, 0, 1, 0}, {0, 1, 9, kRed}, {0, 9, 10, 0}}},
       {"two colours side by side", "RRRRRRRRBBBBBBBB", {{0, 0, 8, kRed}, {0, 8, 16, kBlue}}},
-      {"short gap inside a blend", "hhtthh", {{0, 0, 6, 0}}},
-      {"long gap splits", "hhttttttttthh", {{0, 0, 2, 0}, {0, 11, 13, 0}}},
+      {"short gap inside a blend", "hhttttttthh", {{0, 0, 11, 0}}},
+      {"long gap splits", "hhtttttttthh", {{0, 0, 2, 0}, {0, 10, 12, 0}}},
       {"trailing transparency dropped", "hRRthttt", {{0, 0, 5, 0}}},
   };
-  for (const RunCase& c : cases) {
-    EXPECT_EQ(findLayerRuns(RowImage(c.row)), c.runs) << c.what;
+  for (const auto& c : kCases) {
+    Image image = Image::blank(int32_t(c.row.size()), 1);
+    for (size_t x = 0; x < c.row.size(); ++x) {
+      uint8_t* p = image.pixel(int32_t(x), 0);
+      const char k = c.row[x];
+      p[0] = k == 'B' ? 255 : 0, p[1] = k == 'h' ? 60 : 0, p[2] = k == 'R' ? 255 : 0;
+      p[3] = k == 'h' ? 128 : k == 't' ? 0 : 255;
+    }
+    EXPECT_EQ(findLayerRuns(image), c.runs) << c.what;
   }
 }
 
@@ -65,11 +46,7 @@ TEST(FindLayerRuns, RowsBecomeFillsBlendsAndGaps) {
 TEST(FindLayerRuns, BlendingThroughRunsEqualsThePlainBlend) {
   std::mt19937 random(11);
   const std::vector<std::vector<Rect>> clips = {
-      {},                                          // no clip beyond the target
-      {Rect{5, 3, 30, 20}, Rect{20, 10, 30, 25}},  // overlapping
-      {Rect{0, 0, 12, 40}, Rect{30, 0, 20, 40}},   // disjoint
-  };
-  const Point offsets[] = {{0, 0}, {-7, 4}, {25, -3}, {41, 30}};
+      {}, {Rect{5, 3, 30, 20}, Rect{20, 10, 30, 25}}, {Rect{0, 0, 12, 40}, Rect{30, 0, 20, 40}}};
   for (int round = 0; round < 12; ++round) {
     Image layer = Image::blank(8 + int32_t(random() % 40), 1 + int32_t(random() % 30));
     for (int32_t y = 0; y < layer.height; ++y) {
@@ -89,23 +66,19 @@ TEST(FindLayerRuns, BlendingThroughRunsEqualsThePlainBlend) {
     }
     const std::vector<LayerRun> runs = findLayerRuns(layer);
     for (const auto& clip : clips) {
-      for (const Point at : offsets) {
-        Image plain = Image::blank(50, 40), viaRuns = Image::blank(50, 40);
-        for (Image* target : {&plain, &viaRuns}) {
-          for (size_t i = 0; i < target->pixels->size(); ++i)
-            (*target->pixels)[i] = uint8_t(i * 37 % 251);
-        }
+      for (const Point at : {Point{0, 0}, Point{-7, 4}, Point{25, -3}, Point{41, 30}}) {
+        Image plain = Image::blank(50, 40);
+        for (size_t i = 0; i < plain.pixels->size(); ++i)
+          (*plain.pixels)[i] = uint8_t(i * 37 % 251);
+        Image viaRuns = Image::blank(50, 40);
+        *viaRuns.pixels = *plain.pixels;
         ImageCanvas plainCanvas(plain), runsCanvas(viaRuns);
-        if (!clip.empty()) {
-          plainCanvas.clipToRects(clip);
-          runsCanvas.clipToRects(clip);
-        }
+        if (!clip.empty()) plainCanvas.clipToRects(clip), runsCanvas.clipToRects(clip);
         plainCanvas.blendImage(layer, Rect{0, 0, layer.width, layer.height},
                                Rect{at.x, at.y, layer.width, layer.height}, 255);
         runsCanvas.blendLayer(layer, runs, at);
         ASSERT_EQ(*plain.pixels, *viaRuns.pixels)
-            << "round " << round << " at " << at.x << "," << at.y << " with " << clip.size()
-            << " clip rectangles";
+            << "round " << round << " at " << at.x << "," << at.y << ", clip " << clip.size();
       }
     }
   }

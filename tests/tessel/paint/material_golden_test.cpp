@@ -1,5 +1,5 @@
 // After a deliberate change, regenerate from the project root (see golden/README.txt):
-//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/stayhold_tests
+//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/tessel_tests
 //   --gtest_filter='MaterialGolden.*'
 #include <string>
 
@@ -12,52 +12,28 @@
 namespace tessel {
 namespace {
 
+using P = UiPerformanceProfile;
 const std::string kFolder = "tests/tessel/paint/golden/materials/";
 const Rect kSurface{0, 0, 96, 64};
-// A mid-dark slate under every layer, so that light and dark parts both show.
-const Color kGround = rgbColor(0x3A, 0x40, 0x4A);
 
-Image onGround(const Image& layer) {
+// A layer over a mid-dark slate, so that light and dark parts both show.
+::testing::AssertionResult matches(const Image& layer, const std::string& name) {
   Image sheet = Image::blank(kSurface.width, kSurface.height);
   ImageCanvas canvas(sheet);
-  canvas.fillRect(kSurface, kGround);
+  canvas.fillRect(kSurface, rgbColor(0x3A, 0x40, 0x4A));
   if (!layer.empty()) canvas.blendImage(layer, kSurface, kSurface, 255);
-  return sheet;
+  return MatchesGoldenImage(sheet, kFolder + name + ".pam", 1);
 }
 
-// Middling values with a tint that suits the kind, the same for every picture.
-SurfaceStyle materialStyle(MaterialKind kind, Color tint) {
-  SurfaceStyle s;
-  s.material = kind;
-  s.materialTint = tint;
-  s.materialStrength = 180;
-  s.highlightOpacity = 80;
-  s.reflectionOpacity = 60;
-  s.roughness = 110;
-  s.specular = 130;
-  s.ambientOcclusion = 70;
-  s.edgeWear = 30;
-  s.textureOpacity = 90;
-  s.materialScale = 24;
-  return s;
-}
-
-Image overlayOnGround(const SurfaceStyle& style) {
-  Image layer;
-  EXPECT_TRUE(drawMaterialOverlay(layer, style, kSurface, UiPerformanceProfile::BestGraphics, 0));
-  return onGround(layer);
-}
-
-struct KindName {
+// Each kind with a tint that suits it; the dark glasses darken the ground little at middling
+// values, so stronger light for them.
+struct Kind {
   MaterialKind kind;
   const char* name;
   Color tint;
-  // The dark glasses darken the ground little at middling values: stronger light for them.
-  uint8_t highlight = 80;
-  uint8_t reflection = 60;
+  uint8_t highlight = 80, reflection = 60;
 };
-
-const KindName kKinds[] = {
+const Kind kKinds[] = {
     {MaterialKind::Glass, "glass", rgbColor(0xDC, 0xEE, 0xFF)},
     {MaterialKind::FrostedGlass, "frosted_glass", rgbColor(0xE6, 0xF0, 0xF8)},
     {MaterialKind::Gloss, "gloss", rgbColor(0xFF, 0xFF, 0xFF)},
@@ -77,84 +53,84 @@ const KindName kKinds[] = {
     {MaterialKind::Granite, "granite", rgbColor(0x9A, 0x96, 0x90)},
     {MaterialKind::Marble, "marble", rgbColor(0xE8, 0xE2, 0xD6)},
 };
+const auto& kMetal = kKinds[3];
+const auto& kGranite = kKinds[16];
+const auto& kMarble = kKinds[17];
 
-const KindName& kindNamed(MaterialKind kind) {
-  for (const KindName& k : kKinds)
-    if (k.kind == kind) return k;
-  return kKinds[0];
+// Middling values, the same for every picture.
+SurfaceStyle materialStyle(const Kind& k) {
+  SurfaceStyle s;
+  s.material = k.kind;
+  s.materialTint = k.tint;
+  s.materialStrength = 180;
+  s.highlightOpacity = 80;
+  s.reflectionOpacity = 60;
+  s.roughness = 110;
+  s.specular = 130;
+  s.ambientOcclusion = 70;
+  s.edgeWear = 30;
+  s.textureOpacity = 90;
+  s.materialScale = 24;
+  return s;
+}
+
+Image overlay(const SurfaceStyle& style) {
+  Image layer;
+  EXPECT_TRUE(drawMaterialOverlay(layer, style, kSurface, P::BestGraphics, 0));
+  return layer;
 }
 
 // Every kind with a little relief, so that each height function shows too; brushed metal with
 // the brushed finish that gives it its streaks.
 TEST(MaterialGolden, EachKind) {
-  for (const KindName& k : kKinds) {
-    SurfaceStyle s = materialStyle(k.kind, k.tint);
+  for (const auto& k : kKinds) {
+    SurfaceStyle s = materialStyle(k);
     s.highlightOpacity = k.highlight;
     s.reflectionOpacity = k.reflection;
     s.materialDepth = 64;
     if (k.kind == MaterialKind::BrushedMetal) s.finish = 2;
-    const std::string file = kFolder + "kind_" + k.name + ".pam";
-    EXPECT_TRUE(MatchesGoldenImage(overlayOnGround(s), file, 1)) << file;
+    EXPECT_TRUE(matches(overlay(s), std::string("kind_") + k.name));
   }
 }
 
-struct FinishName {
-  int32_t finish;
-  const char* name;
-};
-
-// The finishes that add a layer of their own.
-const FinishName kFinishes[] = {{2, "brushed"}, {6, "cracked"}, {7, "hammered"},
-                                {8, "etched"},  {9, "frosted"}, {10, "wet"}};
-
-// Strong texture, so that the finish stands out.
+// The finishes that add a layer of their own, with strong texture so that they stand out.
 TEST(MaterialGolden, FinishesOnMetalAndGranite) {
-  for (MaterialKind kind : {MaterialKind::Metal, MaterialKind::Granite}) {
-    const KindName& k = kindNamed(kind);
-    for (const FinishName& f : kFinishes) {
-      SurfaceStyle s = materialStyle(k.kind, k.tint);
-      s.finish = f.finish;
+  const std::pair<int32_t, const char*> kFinishes[] = {
+      {2, "brushed"}, {6, "cracked"}, {7, "hammered"}, {8, "etched"}, {9, "frosted"}, {10, "wet"}};
+  for (const auto* k : {&kMetal, &kGranite}) {
+    for (const auto& [finish, name] : kFinishes) {
+      SurfaceStyle s = materialStyle(*k);
+      s.finish = finish;
       s.materialAngle = 20;
       s.textureOpacity = 220;
-      const std::string file = kFolder + "finish_" + k.name + "_" + f.name + ".pam";
-      EXPECT_TRUE(MatchesGoldenImage(overlayOnGround(s), file, 1)) << file;
+      EXPECT_TRUE(matches(overlay(s), std::string("finish_") + k->name + "_" + name));
     }
   }
 }
 
-TEST(MaterialGolden, ReliefOnAndOffForGraniteAndMarble) {
-  for (MaterialKind kind : {MaterialKind::Granite, MaterialKind::Marble}) {
-    const KindName& k = kindNamed(kind);
-    for (const auto& [depth, state] :
-         {std::pair{uint8_t(0), "off"}, std::pair{uint8_t(128), "on"}}) {
-      SurfaceStyle s = materialStyle(k.kind, k.tint);
-      s.materialDepth = depth;
-      const std::string file = kFolder + "relief_" + k.name + "_" + state + ".pam";
-      EXPECT_TRUE(MatchesGoldenImage(overlayOnGround(s), file, 1)) << file;
+TEST(MaterialGolden, ReliefSpatialShadingAndNoise) {
+  for (const auto* k : {&kGranite, &kMarble}) {
+    for (const auto& [depth, state] : {std::pair{0, "off"}, std::pair{128, "on"}}) {
+      SurfaceStyle s = materialStyle(*k);
+      s.materialDepth = uint8_t(depth);
+      EXPECT_TRUE(matches(overlay(s), std::string("relief_") + k->name + "_" + state));
     }
   }
-}
-
-TEST(MaterialGolden, SpatialShadingOnACapsuleAndARoundedRect) {
   for (const auto& [shape, name] : {std::pair{ShapeKind::Capsule, "capsule"},
                                     std::pair{ShapeKind::RoundedRect, "rounded_rect"}}) {
-    SurfaceStyle s = materialStyle(MaterialKind::Granite, kindNamed(MaterialKind::Granite).tint);
+    SurfaceStyle s = materialStyle(kGranite);
     s.shape = shape;
     s.materialDepth = 160;
     Image layer;
-    ASSERT_TRUE(drawSpatialSurfaceShading(layer, s, kSurface, UiPerformanceProfile::BestGraphics));
-    const std::string file = kFolder + std::string("spatial_") + name + ".pam";
-    EXPECT_TRUE(MatchesGoldenImage(onGround(layer), file, 1)) << file;
+    ASSERT_TRUE(drawSpatialSurfaceShading(layer, s, kSurface, P::BestGraphics));
+    EXPECT_TRUE(matches(layer, std::string("spatial_") + name));
   }
-}
-
-TEST(MaterialGolden, Noise) {
   SurfaceStyle s;
   s.useNoise = true;
   s.noiseOpacity = 64;
   Image layer;
-  ASSERT_TRUE(drawNoise(layer, s, kSurface, UiPerformanceProfile::BestGraphics));
-  EXPECT_TRUE(MatchesGoldenImage(onGround(layer), kFolder + "noise.pam", 1));
+  ASSERT_TRUE(drawNoise(layer, s, kSurface, P::BestGraphics));
+  EXPECT_TRUE(matches(layer, "noise"));
 }
 
 }  // namespace

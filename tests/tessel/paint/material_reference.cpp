@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "tessel/paint/alpha_bands.h"
 #include "tessel/paint/gradient.h"
@@ -22,6 +23,21 @@ double pos(double v) {
 }
 double sat(double v) {
   return std::clamp(v, 0.0, 1.0);
+}
+// pos(v) to the power e; a peak of height 1 at c falling off with slope w, to the power e; and
+// the same peak at 0 over |v|.
+double pw(double v, double e) {
+  return std::pow(pos(v), e);
+}
+double peak(double v, double c, double w, double e) {
+  return pw(1 - std::abs(v - c) * w, e);
+}
+double ridge(double v, double w, double e) {
+  return pw(1 - std::abs(v) * w, e);
+}
+// A ramp from c with slope k, to the power e.
+double ramp(double v, double c, double k, double e) {
+  return pw((v - c) * k, e);
 }
 double radians(double degrees) {
   return degrees * kPi / 180.0;
@@ -57,34 +73,18 @@ bool inside(const SurfaceStyle& style, const Rect& rect, int32_t x, int32_t y) {
                          rect.width, rect.height, x, y);
 }
 
-// Everything the overlay reads that doesn't change from pixel to pixel.
-struct Overlay {
-  const SurfaceStyle& s;
-  MaterialKind kind;
-  Color HL, SH, tint, back;
-  double H, R, G, B, I, L;
-  double rough, spec, ao, wear, tex;
-  int64_t angle, scale;
-  uint32_t seed;
-  double d;
-  double extentX, extentY, stepX, stepY;
-};
+int64_t scaleOf(const SurfaceStyle& s) {
+  return std::max(s.materialScale, 2);
+}
 
-// One point at which the height function is taken.
-struct Point3 {
-  double x, y;     // pixel position in the rectangle
-  int64_t wx, wy;  // world position
-  double tx, ty;   // normalized sample position
-};
-
-bool carbonDiffer(const Overlay& o, int64_t wx, int64_t wy) {
-  const int64_t a = (o.angle + wx + wy) / o.scale;
-  const int64_t b = (o.angle + wx - wy) / o.scale;
+bool carbonDiffer(const SurfaceStyle& s, int64_t wx, int64_t wy) {
+  const int64_t a = (s.materialAngle + wx + wy) / scaleOf(s);
+  const int64_t b = (s.materialAngle + wx - wy) / scaleOf(s);
   return (a & 1) != (b & 1);
 }
 
-double facet(const Overlay& o, double wx, double wy) {
-  const double sc = double(o.scale);
+double facet(const SurfaceStyle& s, double wx, double wy) {
+  const double sc = double(scaleOf(s));
   const double facetA =
       std::abs(std::fmod((wx * 0.036 + wy * 0.021) * std::max(sc * 0.045, 0.5), 1) - 0.5);
   const double facetB =
@@ -92,21 +92,25 @@ double facet(const Overlay& o, double wx, double wy) {
   return std::pow(1 - sat(std::min(facetA, facetB) * 3.6), 2.4);
 }
 
-double height(const Overlay& o, const Point3& q) {
-  const double u = sat(q.tx);
-  const double v = sat(q.ty);
-  const double dome =
-      std::pow(pos(1 - std::sqrt((u - 0.5) * (u - 0.5) + (v - 0.5) * (v - 0.5)) * 1.82), 1.55);
-  const double a = radians(double(o.angle));
-  const double p = (std::cos(a) * q.x + std::sin(a) * q.y) / double(o.scale);
+// The relief's height at pixel (x, y) of the rectangle, world position (wx, wy) and normalized
+// sample position (tx, ty).
+double height(const SurfaceStyle& s, double x, double y, int64_t wx, int64_t wy, double tx,
+              double ty) {
+  const int64_t angle = s.materialAngle, scale = scaleOf(s);
+  const uint32_t seed = s.noiseSeed;
+  const double u = sat(tx);
+  const double v = sat(ty);
+  const double dome = pw(1 - std::sqrt((u - 0.5) * (u - 0.5) + (v - 0.5) * (v - 0.5)) * 1.82, 1.55);
+  const double a = radians(double(angle));
+  const double p = (std::cos(a) * x + std::sin(a) * y) / double(scale);
   const double stripe = std::sin(p * 2 * kPi) * 0.5 + 0.5;
-  const uint32_t hash = hashCell(o.seed ^ kReliefTag, uint32_t(q.wx), uint32_t(q.wy));
+  const uint32_t hash = hashCell(seed ^ kReliefTag, uint32_t(wx), uint32_t(wy));
   const double h1 = (hash & 0xFF) / 255.0;
   const double h2 = ((hash >> 8) & 0xFF) / 255.0;
-  const double axis = gradientAxis(o.s.gradientDirection, q.tx, q.ty);
-  const double sc = double(o.scale);
+  const double axis = gradientAxis(s.gradientDirection, tx, ty);
+  const double sc = double(scale);
   double h = 0;
-  switch (o.kind) {
+  switch (s.material) {
     case MaterialKind::Glass:
     case MaterialKind::FrostedGlass:
       h = dome * 0.68 + stripe * 0.1 + h1 * 0.1;
@@ -126,48 +130,45 @@ double height(const Overlay& o, const Point3& q) {
       h = h1 * 0.26 + dome * 0.12 + h2 * 0.16;
       break;
     case MaterialKind::CarbonFiber:
-      h = dome * 0.16 + (carbonDiffer(o, q.wx, q.wy) ? 0.28 : 0.68) + h1 * 0.06;
+      h = dome * 0.16 + (carbonDiffer(s, wx, wy) ? 0.28 : 0.68) + h1 * 0.06;
       break;
     case MaterialKind::ObsidianGlass:
-      h = std::pow(pos(1 - std::abs(axis - 0.52) * 2.2), 2.8) * 0.22 + dome * 0.58 + h1 * 0.05;
+      h = peak(axis, 0.52, 2.2, 2.8) * 0.22 + dome * 0.58 + h1 * 0.05;
       break;
     case MaterialKind::CarmineGloss:
-      h = std::pow(pos(1 - std::abs(stripe - 0.52) * 2.2), 2.4) * 0.32 + dome * 0.42 + h2 * 0.1;
+      h = peak(stripe, 0.52, 2.2, 2.4) * 0.32 + dome * 0.42 + h2 * 0.1;
       break;
     case MaterialKind::AmberGlass:
-      h = std::pow(pos(1 - std::abs(axis - 0.52) * 1.55), 2) * 0.18 +
-          std::pow(pos(1 - std::abs(std::sin(p * 0.62 + axis * 5.2)) * 1.45), 4.2) * 0.32 +
-          dome * 0.44 + h1 * 0.06;
+      h = peak(axis, 0.52, 1.55, 2) * 0.18 +
+          ridge(std::sin(p * 0.62 + axis * 5.2), 1.45, 4.2) * 0.32 + dome * 0.44 + h1 * 0.06;
       break;
     case MaterialKind::LuminousGlass: {
-      const double b = radians(double(o.s.lightBlobAngle));
-      h = std::pow(pos(1 - std::abs(std::cos(b) * (u - 0.5) + std::sin(b) * (v - 0.5)) * 2.1),
-                   2.6) *
-              0.42 +
-          dome * 0.34 + stripe * 0.08 + h1 * 0.04;
+      const double b = radians(double(s.lightBlobAngle));
+      h = ridge(std::cos(b) * (u - 0.5) + std::sin(b) * (v - 0.5), 2.1, 2.6) * 0.42 + dome * 0.34 +
+          stripe * 0.08 + h1 * 0.04;
       break;
     }
     case MaterialKind::LayeredGlass:
-      h = fractalNoise(u + 0.17, v - 0.11, 4.2, o.seed ^ kStrataTag) * 0.22 + dome * 0.46 +
-          std::pow(pos(1 - std::abs(axis - 0.5) * 1.7), 2.4) * 0.24 + h1 * 0.08;
+      h = fractalNoise(u + 0.17, v - 0.11, 4.2, seed ^ kStrataTag) * 0.22 + dome * 0.46 +
+          peak(axis, 0.5, 1.7, 2.4) * 0.24 + h1 * 0.08;
       break;
     case MaterialKind::Gemstone:
-      h = facet(o, double(q.wx), double(q.wy)) * 0.44 + dome * 0.34 + h1 * 0.08;
+      h = facet(s, double(wx), double(wy)) * 0.44 + dome * 0.34 + h1 * 0.08;
       break;
     case MaterialKind::ObsidianRelief: {
-      const double f = fractalNoise(u, v, 5.8, o.seed ^ kFractureTag);
-      h = std::pow(pos(1 - std::abs(std::sin(p * 0.38 + f * 5.8)) * 1.86), 4.8) * 0.36 +
-          dome * 0.28 + f * 0.24 + h1 * 0.08;
+      const double f = fractalNoise(u, v, 5.8, seed ^ kFractureTag);
+      h = ridge(std::sin(p * 0.38 + f * 5.8), 1.86, 4.8) * 0.36 + dome * 0.28 + f * 0.24 +
+          h1 * 0.08;
       break;
     }
     case MaterialKind::Granite:
-      h = fractalNoise(q.x, q.y, 1 / std::max(sc * 0.52, 3.0), o.seed ^ kGraniteATag) * 0.54 +
-          dome * 0.18 + std::pow(pos(1 - std::abs(stripe - 0.5) * 2.6), 2.7) * 0.16 + h1 * 0.12;
+      h = fractalNoise(x, y, 1 / std::max(sc * 0.52, 3.0), seed ^ kGraniteATag) * 0.54 +
+          dome * 0.18 + peak(stripe, 0.5, 2.6, 2.7) * 0.16 + h1 * 0.12;
       break;
     case MaterialKind::Marble: {
-      const double m = fractalNoise(u, v, 3.4, o.seed ^ kMarbleVeinsTag);
-      h = std::pow(pos(1 - std::abs(std::sin((m * 0.36 + axis) * 15)) * 1.36), 5.2) * 0.42 +
-          m * 0.28 + dome * 0.22 + h1 * 0.06;
+      const double m = fractalNoise(u, v, 3.4, seed ^ kMarbleVeinsTag);
+      h = ridge(std::sin((m * 0.36 + axis) * 15), 1.36, 5.2) * 0.42 + m * 0.28 + dome * 0.22 +
+          h1 * 0.06;
       break;
     }
     default:
@@ -176,40 +177,24 @@ double height(const Overlay& o, const Point3& q) {
   return sat(h);
 }
 
-Color reliefLightColour(const Overlay& o) {
-  switch (o.kind) {
+// The colours of the relief's light and of its lip.
+std::pair<Color, Color> reliefColours(const SurfaceStyle& s) {
+  const Color t = s.materialTint, back = s.backlightColor;
+  switch (s.material) {
     case MaterialKind::ObsidianGlass:
-      return mixColor(hex(0x1C1C20), o.tint, 0.48);
+      return {mixColor(hex(0x1C1C20), t, 0.48), mixColor(hex(0x16161A), t, 0.45)};
     case MaterialKind::CarmineGloss:
-      return mixColor(hex(0xFF4852), o.tint, 0.60);
+      return {mixColor(hex(0xFF4852), t, 0.60), mixColor(hex(0xFFFFFF), t, 0.28)};
     case MaterialKind::AmberGlass:
-      return mixColor(hex(0xFFBF16), o.tint, 0.34);
+      return {mixColor(hex(0xFFBF16), t, 0.34), mixColor(hex(0xFFB200), t, 0.36)};
     case MaterialKind::LuminousGlass:
-      return mixColor(o.back, o.tint, 0.38);
+      return {mixColor(back, t, 0.38), mixColor(back, hex(0xFFE2BE), 0.12)};
     case MaterialKind::Granite:
-      return mixColor(hex(0xD2CBBA), o.tint, 0.44);
+      return {mixColor(hex(0xD2CBBA), t, 0.44), mixColor(hex(0xE6DCC6), t, 0.38)};
     case MaterialKind::Marble:
-      return mixColor(hex(0xFFF4DC), o.tint, 0.34);
+      return {mixColor(hex(0xFFF4DC), t, 0.34), mixColor(hex(0xE6DCC6), t, 0.38)};
     default:
-      return mixColor(hex(0xFFFFFF), o.tint, 0.28);
-  }
-}
-
-Color reliefLipColour(const Overlay& o) {
-  switch (o.kind) {
-    case MaterialKind::ObsidianGlass:
-      return mixColor(hex(0x16161A), o.tint, 0.45);
-    case MaterialKind::CarmineGloss:
-      return mixColor(hex(0xFFFFFF), o.tint, 0.28);
-    case MaterialKind::AmberGlass:
-      return mixColor(hex(0xFFB200), o.tint, 0.36);
-    case MaterialKind::LuminousGlass:
-      return mixColor(o.back, hex(0xFFE2BE), 0.12);
-    case MaterialKind::Granite:
-    case MaterialKind::Marble:
-      return mixColor(hex(0xE6DCC6), o.tint, 0.38);
-    default:
-      return mixColor(hex(0xFFFFFF), o.tint, 0.28);
+      return {mixColor(hex(0xFFFFFF), t, 0.28), mixColor(hex(0xFFFFFF), t, 0.28)};
   }
 }
 
@@ -220,39 +205,19 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
   Image image = Image::blank(rect.width, rect.height);
   if (image.empty()) return image;
   const SampleSpace space = sampleSpace(style, rect);
-  const Color tint = style.materialTint;
-  const uint8_t grain =
+  const MaterialKind kind = style.material;
+  const Color tint = style.materialTint, back = style.backlightColor;
+  const Color HL = mixColor(hex(0xFFFFFF), tint, 0.28), SH = mixColor(hex(0x000000), tint, 0.10);
+  const double H = style.highlightOpacity, R = style.reflectionOpacity, B = style.backlightOpacity,
+               I = style.innerGlow, L = style.rimLight;
+  const double G =
       style.grainOpacity != 0 ? style.grainOpacity : defaultGrainOpacity(style.material);
-  const Overlay o{style,
-                  style.material,
-                  mixColor(hex(0xFFFFFF), tint, 0.28),
-                  mixColor(hex(0x000000), tint, 0.10),
-                  tint,
-                  style.backlightColor,
-                  double(style.highlightOpacity),
-                  double(style.reflectionOpacity),
-                  double(grain),
-                  double(style.backlightOpacity),
-                  double(style.innerGlow),
-                  double(style.rimLight),
-                  style.roughness / 255.0,
-                  style.specular / 255.0,
-                  style.ambientOcclusion / 255.0,
-                  style.edgeWear / 255.0,
-                  style.textureOpacity / 255.0,
-                  style.materialAngle,
-                  std::max(style.materialScale, 2),
-                  style.noiseSeed,
-                  effectiveDepth / 255.0,
-                  space.x.extent,
-                  space.y.extent,
-                  space.x.step(),
-                  space.y.step()};
-  const double H = o.H, R = o.R, G = o.G, B = o.B, I = o.I, L = o.L;
-  const double rough = o.rough, spec = o.spec, wear = o.wear, tex = o.tex, ao = o.ao;
-  const double angle = double(o.angle), scale = double(o.scale);
-  const uint32_t seed = o.seed;
-  const Color HL = o.HL, SH = o.SH, back = o.back;
+  const double rough = style.roughness / 255.0, spec = style.specular / 255.0,
+               ao = style.ambientOcclusion / 255.0, wear = style.edgeWear / 255.0,
+               tex = style.textureOpacity / 255.0;
+  const double angle = double(style.materialAngle), scale = double(scaleOf(style));
+  const uint32_t seed = style.noiseSeed;
+  const double d = effectiveDepth / 255.0;
 
   for (int32_t y = 0; y < rect.height; ++y) {
     for (int32_t x = 0; x < rect.width; ++x) {
@@ -269,12 +234,12 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
       const double edge = std::min({tx, 1 - tx, ty, 1 - ty});
 
       Pixel px{HL, 0};
-      switch (o.kind) {
+      switch (kind) {
         case MaterialKind::Glass:
         case MaterialKind::FrostedGlass:
-          px.alpha = std::pow(pos(1 - ty), 2.2) * H + pos(ty - 0.58) * 1.75 * R +
+          px.alpha = pw(1 - ty, 2.2) * H + pos(ty - 0.58) * 1.75 * R +
                      pos(1 - std::abs(tx - ty - 0.12) * 6) * R * 0.55;
-          if (o.kind == MaterialKind::FrostedGlass) px.alpha += gn * G;
+          if (kind == MaterialKind::FrostedGlass) px.alpha += gn * G;
           break;
         case MaterialKind::Gloss:
         case MaterialKind::Plastic:
@@ -282,12 +247,11 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
           break;
         case MaterialKind::Metal:
         case MaterialKind::BrushedMetal: {
-          const bool metal = o.kind == MaterialKind::Metal;
+          const bool metal = kind == MaterialKind::Metal;
           const double k = metal ? 0.22 : 0.14, m = metal ? 0.035 : 0.06;
           const double off = std::fmod(std::abs(angle), 90) / 90 * 0.08 + 0.42;
-          px.alpha = std::pow(pos(1 - ty), 1.65) * H * 0.08 +
-                     std::pow(pos(1 - std::abs(axis - off) * 1.15), 2.4) * R * k +
-                     std::pow(pos(axis - 0.78) * 2.2, 1.6) * H * 0.06 + std::abs(gn - 0.5) * G * m;
+          px.alpha = pw(1 - ty, 1.65) * H * 0.08 + ridge(axis - off, 1.15, 2.4) * R * k +
+                     ramp(axis, 0.78, 2.2, 1.6) * H * 0.06 + std::abs(gn - 0.5) * G * m;
           break;
         }
         case MaterialKind::Rubber:
@@ -299,39 +263,33 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
           px.alpha = std::abs(127.0 - g) * G / 127;
           break;
         case MaterialKind::CarbonFiber: {
-          const bool differ = carbonDiffer(o, worldX, worldY);
+          const bool differ = carbonDiffer(style, worldX, worldY);
           px.colour = differ ? SH : HL;
           px.alpha = G * (differ ? 0.72 : 0.45) + R * 0.22;
           break;
         }
         case MaterialKind::ObsidianGlass:
           px.colour = mixColor(hex(0x030304), tint, 0.42);
-          px.alpha = std::pow(pos(1 - std::abs(axis - 0.52) * 2.4), 3.6) * R * 0.12 +
-                     std::pow(pos(side - 0.72) * 3.58, 2) * R * 0.22 +
-                     std::pow(pos(1 - ty), 2.8) * H * 0.10 +
-                     std::pow(pos(ty - 0.62) * 2.65, 2) * R * 0.10;
+          px.alpha = peak(axis, 0.52, 2.4, 3.6) * R * 0.12 + ramp(side, 0.72, 3.58, 2) * R * 0.22 +
+                     pw(1 - ty, 2.8) * H * 0.10 + ramp(ty, 0.62, 2.65, 2) * R * 0.10;
           break;
         case MaterialKind::CarmineGloss:
           px.colour = mixColor(hex(0x180002), tint, 0.78);
           px.alpha =
-              std::pow(pos(1 - std::abs(ty - 0.3) * 4), 2.2) * H * 0.16 +
-              std::pow(pos(side - 0.7) * 3.34, 1.7) * R * 0.24 +
-              std::pow(pos(ty - 0.6) * 2.5, 1.7) * R * 0.18 +
-              std::pow(pos(1 - 2 * std::abs(std::sin((angle + wx) * 0.072 + wy * 0.018))), 5) * gn *
-                  G * 0.16;
+              peak(ty, 0.3, 4, 2.2) * H * 0.16 + ramp(side, 0.7, 3.34, 1.7) * R * 0.24 +
+              ramp(ty, 0.6, 2.5, 1.7) * R * 0.18 +
+              pw(1 - 2 * std::abs(std::sin((angle + wx) * 0.072 + wy * 0.018)), 5) * gn * G * 0.16;
           break;
         case MaterialKind::AmberGlass: {
-          const double fireCore = std::pow(pos(1 - std::abs(axis - 0.52) * 1.55), 2.35);
-          const double honeyBody = std::pow(pos(1 - std::abs(ty - 0.58) * 1.72), 1.85) *
-                                   (0.42 + pos(1 - std::abs(tx - 0.48) * 2.2) * 0.58);
+          const double fireCore = peak(axis, 0.52, 1.55, 2.35);
+          const double honeyBody =
+              peak(ty, 0.58, 1.72, 1.85) * (0.42 + pos(1 - std::abs(tx - 0.48) * 2.2) * 0.58);
           const double moltenTop =
-              std::pow(pos(1 - ty), 2.35) * (0.30 + pos(1 - std::abs(tx - 0.34) * 2.4) * 0.70);
-          const double darkRim = std::pow(pos(side - 0.74) * 3.86, 1.55);
-          const double shard =
-              std::pow(pos(1 - std::abs(std::sin((angle + wx) * 0.052 + wy * 0.027) +
-                                        0.55 * std::sin(wx * 0.017 - wy * 0.071)) *
-                                   1.58),
-                       6);
+              pw(1 - ty, 2.35) * (0.30 + pos(1 - std::abs(tx - 0.34) * 2.4) * 0.70);
+          const double darkRim = ramp(side, 0.74, 3.86, 1.55);
+          const double shard = ridge(std::sin((angle + wx) * 0.052 + wy * 0.027) +
+                                         0.55 * std::sin(wx * 0.017 - wy * 0.071),
+                                     1.58, 6);
           const double glint = std::pow(
               sat(std::exp(-((tx - 0.7) * (tx - 0.7) / 0.018 + (ty - 0.34) * (ty - 0.34) / 0.012)) *
                       0.72 +
@@ -365,14 +323,14 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
           const double along = dx * std::cos(blobAngle) + dy * std::sin(blobAngle);
           const double across = dy * std::cos(blobAngle) - dx * std::sin(blobAngle);
           const double ratio =
-              std::max(style.lightBlobScale, 24) / std::max({o.extentX, o.extentY, 64.0});
+              std::max(style.lightBlobScale, 24) / std::max({space.x.extent, space.y.extent, 64.0});
           const double s1 = std::clamp(ratio * 0.62, 0.26, 1.25);
           const double s2 = std::clamp(ratio * 0.24, 0.12, 0.64);
           const double blob = std::exp(-(along * along / (s1 * s1) + across * across / (s2 * s2)));
           const double lower =
               std::exp(-((ty - 0.86) * (ty - 0.86) / 0.055 + (tx - 0.72) * (tx - 0.72) / 0.2));
-          const double rim = std::pow(pos(1 - edge * 13.5), 2.7);
-          const double field = std::pow(pos(1 - std::abs(axis - 0.5) * 1.75), 2.2);
+          const double rim = pw(1 - edge * 13.5, 2.7);
+          const double field = peak(axis, 0.5, 1.75, 2.2);
           const Color inner = mixColor(tint, back, 0.72);
           const Color rimColour = mixColor(back, hex(0xFFE2BE), 0.16);
           if (cheap) {
@@ -394,43 +352,38 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
               fractalNoise(wx, wy, 1 / std::max(scale * 0.62, 3.0), seed ^ kMicroTag);
           px.colour = mixColor(mixColor(hex(0x050608), tint, 0.44), back, 0.18 + strata * 0.24);
           px.alpha =
-              std::pow(pos(1 - std::abs(std::sin((axis + strata * 0.16) * 9.4)) * 1.16), 3.2) *
-                  tex * 86 +
-              std::pow(pos(1 - ty), 2) * H * (0.30 + spec * 0.72) +
-              std::pow(pos(ty - 0.56) * 2.27, 2) * R * 0.34 +
-              std::pow(pos(side - 0.68) * 3.12, 1.8) * L * (0.18 + wear * 0.38) +
+              ridge(std::sin((axis + strata * 0.16) * 9.4), 1.16, 3.2) * tex * 86 +
+              pw(1 - ty, 2) * H * (0.30 + spec * 0.72) + ramp(ty, 0.56, 2.27, 2) * R * 0.34 +
+              ramp(side, 0.68, 3.12, 1.8) * L * (0.18 + wear * 0.38) +
               std::abs(micro - 0.5) * tex * (30 + rough * 46) +
               std::exp(-((tx - 0.66) * (tx - 0.66) / 0.014 + (ty - 0.42) * (ty - 0.42) / 0.018)) *
                   tex * 28;
           break;
         }
         case MaterialKind::Gemstone: {
-          const double f = facet(o, wx, wy);
-          const double prism =
-              std::pow(pos(1 - std::abs(axis - (0.44 + g2 / 255.0 * 0.18)) * 3), 2.2);
+          const double f = facet(style, wx, wy);
+          const double prism = ridge(axis - (0.44 + g2 / 255.0 * 0.18), 3, 2.2);
           const double glintNoise = fractalNoise(tx, ty, 3.2, seed ^ kGemGlintTag);
-          const double rim = std::pow(pos(1 - edge * 10.2), 2.1);
+          const double rim = pw(1 - edge * 10.2, 2.1);
           px.colour = mixColor(mixColor(hex(0x010202), tint, 0.56),
                                mixColor(tint, hex(0xFFFFFF), 0.20 + spec * 0.16),
                                sat(f * 0.42 + prism * 0.26 + glintNoise * 0.06));
           px.alpha = rim * L * (0.22 + wear * 0.36) + (72 + spec * 210) * tex * f +
-                     R * prism * 0.4 + tex * glintNoise * 18 +
-                     std::pow(pos(1 - ty), 2.3) * H * 0.22;
+                     R * prism * 0.4 + tex * glintNoise * 18 + pw(1 - ty, 2.3) * H * 0.22;
           break;
         }
         case MaterialKind::ObsidianRelief: {
           const double fracture = fractalNoise(tx, ty, 5.8, seed ^ kFractureTag);
-          const double vein = std::pow(
-              pos(1 - std::abs(std::sin(wx * 0.041 + wy * 0.029 + fracture * 5.8 + angle)) * 1.86),
-              4.8);
+          const double vein =
+              ridge(std::sin(wx * 0.041 + wy * 0.029 + fracture * 5.8 + angle), 1.86, 4.8);
           const double pit =
               std::pow(fractalNoise(wx, wy, 1 / std::max(scale, 2.0), seed ^ kPitsTag), 2.4);
-          const double rim = std::pow(pos(1 - edge * 11.6), 2.3);
+          const double rim = pw(1 - edge * 11.6, 2.3);
           px.colour =
               mixColor(mixColor(hex(0x010102), tint, 0.18), mixColor(hex(0x120002), tint, 0.62),
                        sat(vein * 0.72 + fracture * 0.10));
           px.alpha = rim * L * (0.18 + wear * 0.42) + pit * tex * rough * 30 + vein * tex * 72 +
-                     std::pow(pos(1 - ty), 2.6) * H * 0.11;
+                     pw(1 - ty, 2.6) * H * 0.11;
           break;
         }
         case MaterialKind::Granite: {
@@ -439,10 +392,8 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
           const double mineralB =
               fractalNoise(wx, wy, 1 / std::max(scale * 0.34, 2.0), seed ^ kGraniteBTag);
           const double feldspar = mineralA > 0.64 ? mineralB * 0.42 + 0.58 : 0;
-          const double mica = std::pow(
-              pos(1 -
-                  std::abs(std::fmod((wx * 0.031 - wy * 0.024) * scale * 0.035, 1) - 0.5) * 3.4),
-              3.2);
+          const double mica =
+              ridge(std::fmod((wx * 0.031 - wy * 0.024) * scale * 0.035, 1) - 0.5, 3.4, 3.2);
           px.colour =
               mixColor(mixColor(hex(0x050504), tint, 0.28), mixColor(hex(0xB2AEA2), tint, 0.52),
                        sat(feldspar * 0.72 + mineralA * 0.24));
@@ -456,14 +407,11 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
         case MaterialKind::Marble: {
           const double cloud = fractalNoise(tx, ty, 1.2, seed ^ kMarbleCloudsTag);
           const double marble = fractalNoise(tx, ty, 3.4, seed ^ kMarbleVeinsTag);
-          const double vein = std::pow(
-              pos(1 -
-                  std::abs(std::sin((axis + marble * 0.36) * 15 + std::sin(ty * 9) * 0.8)) * 1.36),
-              5.2);
+          const double vein =
+              ridge(std::sin((axis + marble * 0.36) * 15 + std::sin(ty * 9) * 0.8), 1.36, 5.2);
           px.colour = mixColor(mixColor(hex(0x9E998F), tint, 0.56),
                                mixColor(hex(0xFFF6E0), tint, 0.28), cloud * 0.26);
-          px.alpha = std::pow(pos(1 - ty), 2.2) * H * 0.10 + (76 + rough * 36) * vein * tex +
-                     cloud * tex * 20;
+          px.alpha = pw(1 - ty, 2.2) * H * 0.10 + (76 + rough * 36) * vein * tex + cloud * tex * 20;
           if (vein > 0.10)
             px.colour = mixColor(px.colour, mixColor(hex(0x1A1716), tint, 0.24),
                                  std::min(vein * 0.36, 0.55));
@@ -480,18 +428,14 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
       switch (style.finish) {
         case 2: {
           const double a = radians(angle);
-          px.add(HL,
-                 std::pow(pos(1 - std::abs(std::sin((wx * std::cos(a) + wy * std::sin(a)) * 0.74)) *
-                                      1.64),
-                          2.4) *
-                     tex * 30);
+          px.add(HL, ridge(std::sin((wx * std::cos(a) + wy * std::sin(a)) * 0.74), 1.64, 2.4) *
+                         tex * 30);
           break;
         }
         case 6: {
           const double n = finishNoise();
-          px.add(SH, std::pow(pos(1 - std::abs(std::sin(wx * 0.067 + wy * 0.031 + n * 8)) * 1.72),
-                              5.8) *
-                         tex * (78 + ao * 88));
+          px.add(SH, ridge(std::sin(wx * 0.067 + wy * 0.031 + n * 8), 1.72, 5.8) * tex *
+                         (78 + ao * 88));
           break;
         }
         case 7: {
@@ -500,40 +444,39 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
           break;
         }
         case 8:
-          px.add(SH, std::pow(pos(1 - std::abs(std::sin((wx + wy * 0.32) * 0.42)) * 1.62), 4) *
-                         tex * 46);
+          px.add(SH, ridge(std::sin((wx + wy * 0.32) * 0.42), 1.62, 4) * tex * 46);
           break;
         case 9:
           px.add(HL, std::abs(finishNoise() - 0.5) * tex * 36);
           break;
         case 10:
-          px.add(HL, std::pow(pos(1 - std::abs(ty - 0.26) * 5), 2.4) * H * 0.36);
+          px.add(HL, peak(ty, 0.26, 5, 2.4) * H * 0.36);
           break;
         default:
           break;
       }
 
       // The relief light.
-      if (o.d > 0) {
-        const double d = o.d;
+      if (d > 0) {
         const double az = radians(double(style.materialLightAngle));
         const double el = radians(double(std::clamp<int>(style.materialLightElevation, 1, 89)));
         const double Lx = std::cos(el) * std::cos(az), Ly = std::cos(el) * std::sin(az),
                      Lz = std::sin(el);
-        const double px0 = x, py0 = y;
-        const double hl = height(o, {px0 - 1, py0, worldX - 1, worldY, tx - o.stepX, ty});
-        const double hr = height(o, {px0 + 1, py0, worldX + 1, worldY, tx + o.stepX, ty});
-        const double hu = height(o, {px0, py0 - 1, worldX, worldY - 1, tx, ty - o.stepY});
-        const double hd = height(o, {px0, py0 + 1, worldX, worldY + 1, tx, ty + o.stepY});
+        const double sx = space.x.step(), sy = space.y.step();
+        const double hl = height(style, x - 1, y, worldX - 1, worldY, tx - sx, ty);
+        const double hr = height(style, x + 1, y, worldX + 1, worldY, tx + sx, ty);
+        const double hu = height(style, x, y - 1, worldX, worldY - 1, tx, ty - sy);
+        const double hd = height(style, x, y + 1, worldX, worldY + 1, tx, ty + sy);
+        const auto [lightColour, lipColour] = reliefColours(style);
         const double gx = (hl - hr) * d * 3.2;
         const double gy = (hu - hd) * d * 3.2;
         const double len = std::sqrt(gx * gx + gy * gy + 1);
         const double shade = (gx * Lx + gy * Ly + Lz) / len - Lz;
-        if (shade > 0.006) px.add(reliefLightColour(o), H * shade * (0.85 + d * 1.35) * 2.3);
+        if (shade > 0.006) px.add(lightColour, H * shade * (0.85 + d * 1.35) * 2.3);
         if (shade < -0.006) px.add(SH, R * (-shade) * (0.85 + d * 1.35) * 1.85);
-        const double lip = std::pow(pos(std::max(ty, 1 - ty) - 0.82) * 5.56, 1.45) +
-                           std::pow(pos(side - 0.82) * 5.56, 1.45);
-        if (lip > 0) px.add(reliefLipColour(o), R * lip * d * 0.18);
+        const double lip =
+            ramp(std::max(ty, 1 - ty), 0.82, 5.56, 1.45) + ramp(side, 0.82, 5.56, 1.45);
+        if (lip > 0) px.add(lipColour, R * lip * d * 0.18);
       }
 
       const double alpha = std::clamp(style.materialStrength / 180.0 * px.alpha, 0.0, 255.0);
@@ -662,24 +605,23 @@ Image spatialShading(const SurfaceStyle& style, const Rect& rect) {
       double shadeTerm = 0, litTerm = 0;
       if (n > 0.001) {
         const double dot = (gx * Lx + gy * Ly) / n;
-        shadeTerm = std::pow(pos(0.12 - dot), 1.65);
-        litTerm = std::pow(pos(dot + 0.1), 1.45);
+        shadeTerm = pw(0.12 - dot, 1.65);
+        litTerm = pw(dot + 0.1, 1.45);
       }
-      const double rimA = std::pow(pos(1 - e0 / (R2 * 1.24)), 1.25);
-      const double rimB = std::pow(pos(1 - e1 / R1), 1.65);
-      const double rimC = std::pow(pos(1 - e1 / R2), 1.15);
-      const double fTop = std::pow(pos(1 - top / R1), 1.35);
-      const double fLeft = std::pow(pos(1 - left / R1), 1.35);
-      const double fBottom = std::pow(pos(1 - bottom / R1), 1.25);
-      const double fRight = std::pow(pos(1 - right / R1), 1.25);
-      const double dome =
-          std::pow(pos(1 - std::sqrt((tx - 0.5) * (tx - 0.5) + (ty - 0.5) * (ty - 0.5)) * 1.62),
-                   d * 0.7 + 1.18);
+      const double rimA = pw(1 - e0 / (R2 * 1.24), 1.25);
+      const double rimB = pw(1 - e1 / R1, 1.65);
+      const double rimC = pw(1 - e1 / R2, 1.15);
+      const double fTop = pw(1 - top / R1, 1.35);
+      const double fLeft = pw(1 - left / R1, 1.35);
+      const double fBottom = pw(1 - bottom / R1, 1.25);
+      const double fRight = pw(1 - right / R1, 1.25);
+      const double dome = pw(
+          1 - std::sqrt((tx - 0.5) * (tx - 0.5) + (ty - 0.5) * (ty - 0.5)) * 1.62, d * 0.7 + 1.18);
       const double lightDot = Lx * (tx - 0.5) + Ly * (ty - 0.5);
-      const double towards = std::pow(pos(0.18 - lightDot), 1.45);
-      const double away = std::pow(pos(lightDot + 0.1), 1.3);
-      const double lower = std::pow(pos(ty - 0.48) * 1.92, 1.45);
-      const double upper = std::pow(pos(1 - ty), 2.2);
+      const double towards = pw(0.18 - lightDot, 1.45);
+      const double away = pw(lightDot + 0.1, 1.3);
+      const double lower = ramp(ty, 0.48, 1.92, 1.45);
+      const double upper = pw(1 - ty, 2.2);
 
       Pixel px{dark, 0};
       px.add(dark, (fRight * 24 + fBottom * 34 + lower * 18 + away * 18) * ao * intensity);
@@ -697,7 +639,7 @@ Image spatialShading(const SurfaceStyle& style, const Rect& rect) {
         const double lam = std::sqrt(pos(1 - s * s)) * Lz + l * s;
         const double litBand = std::pow(sat((lam - 0.08) / 0.92), 1.65);
         const double darkBand = std::pow(sat((0.52 - lam) / 0.92), 1.35);
-        const double tubeLower = std::pow(pos(u - 0.58) * 2.38, 1.55);
+        const double tubeLower = ramp(u, 0.58, 2.38, 1.55);
         const double q = (u - std::clamp(0.3 - l * 0.12, 0.16, 0.48)) / specWidth;
         const double peak = std::exp(-(q * q));
         const double tk = (d * 0.64 + 0.68) * thin;
@@ -707,7 +649,7 @@ Image spatialShading(const SurfaceStyle& style, const Rect& rect) {
         px.add(rimColour, peak * wear * (spec * 52 + 18) * tk * intensity);
       }
       if (extraLayers) {
-        px.add(dark, std::pow(pos(1 - e1 / (R1 * 1.75)), 2.45) * ao * d * 34 * intensity);
+        px.add(dark, pw(1 - e1 / (R1 * 1.75), 2.45) * ao * d * 34 * intensity);
         px.add(rimColour, rimB * wear * spec * 52 * intensity);
       }
       writePixel(image, x, y, px.colour, std::clamp(px.alpha, 0.0, 190.0));

@@ -20,17 +20,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// From fonts-dejavu-core, through Wine's drive Z:.
-const wchar_t kSourceFont[] = L"Z:\\usr\\share\\fonts\\truetype\\dejavu\\DejaVuSans.ttf";
-
 std::string readBytes(const fs::path& path) {
   std::ifstream in(path, std::ios::binary);
   return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
 }
 
 void writeBytes(const fs::path& path, const std::string& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
 }
 
 uint32_t bigEndian(const std::string& bytes, size_t at, size_t size) {
@@ -46,8 +42,7 @@ void putBigEndian32(std::string& bytes, size_t at, uint32_t value) {
 }
 
 // The OpenType checksum: the sum of big-endian 32-bit words, the tail padded with zeros.
-uint32_t checksum(const std::string& bytes, size_t at, size_t length) {
-  std::string part = bytes.substr(at, length);
+uint32_t checksum(std::string part) {
   part.resize((part.size() + 3) / 4 * 4, '\0');
   uint32_t sum = 0;
   for (size_t i = 0; i < part.size(); i += 4)
@@ -55,49 +50,35 @@ uint32_t checksum(const std::string& bytes, size_t at, size_t length) {
   return sum;
 }
 
-// Offset of the table record tagged `tag`, or 0.
-size_t tableRecord(const std::string& font, const char* tag) {
-  const size_t tables = bigEndian(font, 4, 2);
-  for (size_t i = 0; i < tables; ++i) {
-    if (font.compare(12 + 16 * i, 4, tag) == 0) return 12 + 16 * i;
+// DejaVu Sans (from fonts-dejavu-core, through Wine's drive Z:) with "DejaVu" replaced by `six`
+// (six letters, so that no offset moves) in every name, in the one-byte Macintosh names and the
+// UTF-16 Windows names. Checksums are kept right.
+std::string renamedFont(const std::string& six) {
+  std::string font = readBytes(L"Z:\\usr\\share\\fonts\\truetype\\dejavu\\DejaVuSans.ttf");
+  size_t name = 0, head = 0;
+  for (size_t i = 0; font.size() > 12 && i < bigEndian(font, 4, 2); ++i) {
+    if (font.compare(12 + 16 * i, 4, "name") == 0) name = 12 + 16 * i;
+    if (font.compare(12 + 16 * i, 4, "head") == 0) head = 12 + 16 * i;
   }
-  return 0;
-}
-
-std::string utf16BigEndian(const std::string& ascii) {
-  std::string text;
-  for (char c : ascii)
-    text += std::string{'\0', c};
-  return text;
-}
-
-void replaceAll(std::string& bytes, size_t from, size_t to, const std::string& old,
-                const std::string& replacement) {
-  for (size_t at = bytes.find(old, from); at != std::string::npos && at + old.size() <= to;
-       at = bytes.find(old, at + old.size()))
-    bytes.replace(at, old.size(), replacement);
-}
-
-// DejaVu Sans with "DejaVu" replaced by `six` (six letters, so that no offset moves) in every
-// name, in the one-byte Macintosh names and the UTF-16 Windows names. Checksums are kept right.
-std::string renamedFont(std::string font, const std::string& six) {
-  const size_t name = tableRecord(font, "name");
-  const size_t head = tableRecord(font, "head");
-  if (name == 0 || head == 0 || six.size() != 6) return std::string();
-  const size_t offset = bigEndian(font, name + 8, 4);
-  const size_t end = offset + bigEndian(font, name + 12, 4);
-  replaceAll(font, offset, end, "DejaVu", six);
-  replaceAll(font, offset, end, utf16BigEndian("DejaVu"), utf16BigEndian(six));
-  putBigEndian32(font, name + 4, checksum(font, offset, end - offset));
+  if (name == 0 || head == 0) return std::string();
+  const size_t offset = bigEndian(font, name + 8, 4), end = offset + bigEndian(font, name + 12, 4);
+  const auto utf16 = [](const std::string& ascii) {
+    std::string text;
+    for (char c : ascii)
+      text += std::string{'\0', c};
+    return text;
+  };
+  for (const auto& [old, replacement] :
+       {std::pair{std::string("DejaVu"), six}, std::pair{utf16("DejaVu"), utf16(six)}}) {
+    for (size_t at = font.find(old, offset); at != std::string::npos && at + old.size() <= end;
+         at = font.find(old, at + old.size()))
+      font.replace(at, old.size(), replacement);
+  }
+  putBigEndian32(font, name + 4, checksum(font.substr(offset, end - offset)));
   const size_t adjustment = bigEndian(font, head + 8, 4) + 8;
   putBigEndian32(font, adjustment, 0);
-  putBigEndian32(font, adjustment, 0xB1B0AFBA - checksum(font, 0, font.size()));
+  putBigEndian32(font, adjustment, 0xB1B0AFBA - checksum(font));
   return font;
-}
-
-int CALLBACK noteFamily(const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM found) {
-  *reinterpret_cast<bool*>(found) = true;
-  return 0;
 }
 
 // Whether GDI knows a font of `family` in this process.
@@ -107,7 +88,13 @@ bool familyKnown(const std::wstring& family) {
   query.lfCharSet = DEFAULT_CHARSET;
   family.copy(query.lfFaceName, LF_FACESIZE - 1);
   bool found = false;
-  EnumFontFamiliesExW(dc, &query, noteFamily, reinterpret_cast<LPARAM>(&found), 0);
+  EnumFontFamiliesExW(
+      dc, &query,
+      [](const LOGFONTW*, const TEXTMETRICW*, DWORD, LPARAM seen) -> int {
+        *reinterpret_cast<bool*>(seen) = true;
+        return 0;
+      },
+      reinterpret_cast<LPARAM>(&found), 0);
   DeleteDC(dc);
   return found;
 }
@@ -139,22 +126,16 @@ fs::path freshTempFolder(const wchar_t* name) {
   return folder;
 }
 
-std::wstring programPath() {
-  wchar_t path[MAX_PATH] = {};
-  GetModuleFileNameW(nullptr, path, MAX_PATH);
-  return path;
-}
-
 TEST(PrivateFonts, LoadsTheFontFilesOfTheFolderAndReleasesThem) {
-  const std::string original = readBytes(kSourceFont);
-  ASSERT_GT(original.size(), 100000u) << "fonts-dejavu-core is needed";
   const fs::path folder = freshTempFolder(L"stayhold-private-fonts-");
-  writeBytes(folder / L"X.TTF", renamedFont(original, "Tessel"));
+  const std::string font = renamedFont("Tessel");
+  ASSERT_GT(font.size(), 100000u) << "fonts-dejavu-core is needed";
+  writeBytes(folder / L"X.TTF", font);
   const char damaged[] = "\x00\x01\x00\x00 a TrueType tag, then garbage";
   writeBytes(folder / L"broken.ttf", std::string(damaged, sizeof(damaged) - 1));
-  writeBytes(folder / L"notes.txt", renamedFont(original, "Ledger"));
+  writeBytes(folder / L"notes.txt", renamedFont("Ledger"));
   fs::create_directories(folder / L"nested");
-  writeBytes(folder / L"nested" / L"inner.ttf", renamedFont(original, "Nested"));
+  writeBytes(folder / L"nested" / L"inner.ttf", renamedFont("Nested"));
   for (const wchar_t* family : {L"Tessel Sans", L"Ledger Sans", L"Nested Sans"})
     ASSERT_FALSE(familyKnown(family)) << "already known: " << testing::PrintToString(family);
   // The damaged file is skipped because it fails to load, not because it was never tried.
@@ -167,33 +148,29 @@ TEST(PrivateFonts, LoadsTheFontFilesOfTheFolderAndReleasesThem) {
   EXPECT_EQ(faceFor(L"Tessel Sans", 12), L"Tessel Sans");
   EXPECT_FALSE(familyKnown(L"Ledger Sans"));  // not a font extension
   EXPECT_FALSE(familyKnown(L"Nested Sans"));  // subfolders are not read
-
   EXPECT_EQ(releasePrivateFonts(loaded), 1u);
   EXPECT_FALSE(familyKnown(L"Tessel Sans"));
   EXPECT_NE(faceFor(L"Tessel Sans", 13), L"Tessel Sans");
   EXPECT_EQ(releasePrivateFonts(loaded), 0u);  // already released
-  std::error_code ignored;
-  fs::remove_all(folder, ignored);
-}
-
-TEST(PrivateFonts, AMissingFolderLoadsNothing) {
-  const fs::path folder = freshTempFolder(L"stayhold-no-fonts-");
-  EXPECT_TRUE(loadPrivateFontsFrom((folder / L"fonts").wstring()).empty());
-  EXPECT_TRUE(loadPrivateFontsFrom(folder.wstring()).empty());  // present but empty
-  std::error_code ignored;
-  fs::remove_all(folder, ignored);
+  // A missing folder, or an empty one, loads nothing.
+  fs::remove_all(folder);
+  EXPECT_TRUE(loadPrivateFontsFrom(folder.wstring()).empty());
+  fs::create_directories(folder);
+  EXPECT_TRUE(loadPrivateFontsFrom(folder.wstring()).empty());
+  fs::remove_all(folder);
 }
 
 // The canvas's first font loads the folder "fonts" beside the program. That happens once per
 // process, so a fresh process of this program runs the check below (disabled in the suite).
 TEST(PrivateFonts, TheFirstCanvasFontLoadsTheFolderBesideTheProgram) {
-  const std::string original = readBytes(kSourceFont);
-  ASSERT_GT(original.size(), 100000u) << "fonts-dejavu-core is needed";
-  const fs::path program = programPath();
-  const fs::path fonts = program.parent_path() / L"fonts";
+  wchar_t program[MAX_PATH] = {};
+  GetModuleFileNameW(nullptr, program, MAX_PATH);
+  const fs::path fonts = fs::path(program).parent_path() / L"fonts";
   ASSERT_FALSE(fs::exists(fonts)) << "left by another run: " << fonts;
+  const std::string font = renamedFont("Beside");
+  ASSERT_GT(font.size(), 100000u) << "fonts-dejavu-core is needed";
   fs::create_directories(fonts);
-  writeBytes(fonts / L"Beside.ttf", renamedFont(original, "Beside"));
+  writeBytes(fonts / L"Beside.ttf", font);
 
   const fs::path output = freshTempFolder(L"stayhold-font-child-") / L"output.txt";
   SECURITY_ATTRIBUTES inherit{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
@@ -203,9 +180,8 @@ TEST(PrivateFonts, TheFirstCanvasFontLoadsTheFolderBesideTheProgram) {
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   startup.dwFlags = STARTF_USESTDHANDLES;
-  startup.hStdOutput = file;
-  startup.hStdError = file;
-  std::wstring command = L"\"" + program.wstring() +
+  startup.hStdOutput = startup.hStdError = file;
+  std::wstring command = L"\"" + std::wstring(program) +
                          L"\" --gtest_also_run_disabled_tests"
                          L" --gtest_filter=PrivateFontsInAFreshProcess.*";
   PROCESS_INFORMATION child{};

@@ -2,7 +2,7 @@
 // surfaces/): every shape with all layers a plain surface has (glow, shadow, gradient with a
 // middle stop, border, outline), every gradient kind in every direction, and segmented bodies.
 // Regenerate from the project root after a deliberate change and look at the sheets:
-//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/stayhold_tests --gtest_filter='SurfaceGolden.*'
+//   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/tessel_tests --gtest_filter='SurfaceGolden.*'
 #include <gtest/gtest.h>
 
 #include "tessel/paint/image_canvas.h"
@@ -13,25 +13,19 @@
 namespace tessel {
 namespace {
 
-const Color kGround = rgbColor(38, 44, 52);
+using P = UiPerformanceProfile;
 
-class SurfaceGolden : public ::testing::Test {
- protected:
-  void SetUp() override { clearPaintCaches(); }
-  void TearDown() override { clearPaintCaches(); }
-
-  static Image Ground(int32_t width, int32_t height) {
-    Image image = Image::blank(width, height);
-    ImageCanvas(image).fillRect(Rect{0, 0, width, height}, kGround);
-    return image;
-  }
-};
+Image Ground(int32_t width, int32_t height) {
+  clearPaintCaches();
+  Image image = Image::blank(width, height);
+  ImageCanvas(image).fillRect(Rect{0, 0, width, height}, rgbColor(38, 44, 52));
+  return image;
+}
 
 SurfaceStyle Layered(ShapeKind shape) {
   SurfaceStyle s;
   s.shape = shape;
-  s.useGradient = true;
-  s.useGradientMid = true;
+  s.useGradient = s.useGradientMid = true;
   s.gradientStart = rgbColor(120, 170, 230);
   s.gradientMid = rgbColor(40, 90, 160);
   s.gradientEnd = rgbColor(20, 40, 90);
@@ -50,19 +44,18 @@ SurfaceStyle Layered(ShapeKind shape) {
   return s;
 }
 
-TEST_F(SurfaceGolden, EveryShapeWithEveryPlainLayer) {
+TEST(SurfaceGolden, EveryShapeWithEveryPlainLayer) {
   Image sheet = Ground(3 * 96, 3 * 64);
   ImageCanvas canvas(sheet);
   for (int32_t kind = 0; kind <= 8; ++kind) {
     const Rect rect{(kind % 3) * 96 + 14, (kind / 3) * 64 + 12, 66, 38};
-    drawSurface(canvas, rect, Layered(static_cast<ShapeKind>(kind)),
-                UiPerformanceProfile::BestGraphics);
+    drawSurface(canvas, rect, Layered(static_cast<ShapeKind>(kind)), P::BestGraphics);
   }
   EXPECT_TRUE(MatchesGoldenPng(sheet, "tests/tessel/paint/golden/surfaces/shapes.png", 1));
 }
 
 // Rows: linear, reflected, radial, diamond, conic. Columns: the eight directions.
-TEST_F(SurfaceGolden, EveryGradientKindInEveryDirection) {
+TEST(SurfaceGolden, EveryGradientKindInEveryDirection) {
   Image sheet = Ground(8 * 52, 5 * 40);
   ImageCanvas canvas(sheet);
   for (int32_t kind = 0; kind < 5; ++kind) {
@@ -77,8 +70,7 @@ TEST_F(SurfaceGolden, EveryGradientKindInEveryDirection) {
       s.gradientEnd = rgbColor(40, 30, 110);
       s.gradientKind = kind;
       s.gradientDirection = direction;
-      drawSurface(canvas, Rect{direction * 52 + 4, kind * 40 + 4, 44, 32}, s,
-                  UiPerformanceProfile::BestGraphics);
+      drawSurface(canvas, Rect{direction * 52 + 4, kind * 40 + 4, 44, 32}, s, P::BestGraphics);
     }
   }
   EXPECT_TRUE(MatchesGoldenPng(sheet, "tests/tessel/paint/golden/surfaces/gradients.png", 1));
@@ -86,7 +78,7 @@ TEST_F(SurfaceGolden, EveryGradientKindInEveryDirection) {
 
 // A notched popup (tall, row spans) and a grouped pair of buttons (wide, column spans), each
 // with a gradient and a material that must run through without seams.
-TEST_F(SurfaceGolden, SegmentedBodies) {
+TEST(SurfaceGolden, SegmentedBodies) {
   Image sheet = Ground(200, 120);
   ImageCanvas canvas(sheet);
   SurfaceStyle s = Layered(ShapeKind::Rectangle);
@@ -96,12 +88,10 @@ TEST_F(SurfaceGolden, SegmentedBodies) {
   s.textureOpacity = 160;
   s.highlightOpacity = 110;
   s.materialDepth = 70;
-  drawSegmentedSurface(canvas, {Rect{10, 10, 30, 14}, Rect{10, 24, 70, 86}}, s,
-                       UiPerformanceProfile::BestGraphics);
+  drawSegmentedSurface(canvas, {Rect{10, 10, 30, 14}, Rect{10, 24, 70, 86}}, s, P::BestGraphics);
   s.gradientDirection = 2;
   s.material = MaterialKind::Granite;
-  drawSegmentedSurface(canvas, {Rect{96, 20, 44, 30}, Rect{140, 30, 50, 20}}, s,
-                       UiPerformanceProfile::BestGraphics);
+  drawSegmentedSurface(canvas, {Rect{96, 20, 44, 30}, Rect{140, 30, 50, 20}}, s, P::BestGraphics);
   EXPECT_TRUE(MatchesGoldenPng(sheet, "tests/tessel/paint/golden/surfaces/segmented.png", 1));
 }
 
