@@ -50,12 +50,8 @@ TEST(JsonParse, TheOrderOfKeys) {
   std::vector<std::wstring> keys;
   for (const auto& member : value.members)
     keys.push_back(member.first);
-  EXPECT_EQ(keys, (std::vector<std::wstring>{L"B",
-                                             L"a",
-                                             L"ab",
-                                             L"b",
-                                             {wchar_t(0xD83D), wchar_t(0xDE00)},
-                                             std::wstring(1, wchar_t(0xE000))}));
+  const std::wstring pair{wchar_t(0xD83D), wchar_t(0xDE00)}, privateUse(1, wchar_t(0xE000));
+  EXPECT_EQ(keys, (std::vector<std::wstring>{L"B", L"a", L"ab", L"b", pair, privateUse}));
   EXPECT_EQ(value.members.at(L"b").number, 7);
   const auto astral = [](wchar_t low) {
     return sizeof(wchar_t) == 2 ? std::wstring{wchar_t(0xD83D), low}
@@ -64,9 +60,10 @@ TEST(JsonParse, TheOrderOfKeys) {
   const Utf16KeyLess less;
   EXPECT_TRUE(less(astral(0xDE00), astral(0xDE01)));
   EXPECT_FALSE(less(astral(0xDE01), astral(0xDE00)));
-  EXPECT_TRUE(less(astral(0xDE00), std::wstring(1, wchar_t(0xE000))));
+  EXPECT_TRUE(less(astral(0xDE00), privateUse));
   EXPECT_TRUE(less(std::wstring(1, wchar_t(0xD83D)), astral(0xDE00)));  // a prefix of the pair
   EXPECT_FALSE(less(astral(0xDE00), astral(0xDE00)));
+  EXPECT_TRUE(less(std::wstring(L"\0a", 2), std::wstring(L"\0b", 2)));  // a unit 0 is no end
 }
 
 // Surrogates stay code units, alone or in pairs; raw control characters stay.

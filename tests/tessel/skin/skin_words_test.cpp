@@ -35,11 +35,11 @@ void ExpectWords(Parser parse, const std::pair<const wchar_t*, int32_t> (&cases)
 // Shape words are only trimmed and lower-cased; the others are compared as keys. Numbers are the
 // stored values of the kinds.
 TEST(SkinWords, WordsAndRefusals) {
-  const Words kShapes = {{L"parallelogram", 7}, {L"rounded rect", -1}, {L"Rounded-Rect", 1},
-                         {L"pill-shaped", -1},  {L"cut_corner", -1},   {L"cut-corner", 4},
-                         {L"slant-left", 8},    {L" PILL\t\n", 2},     {L"cutcorner", 4},
-                         {L"SLANTLEFT", 8},     {L"rhombus", 3},       {L"octagon", 5},
-                         {L"rect", 0},          {L"   ", -1},          {L"", -1}};
+  const Words kShapes = {
+      {L"parallelogram", 7}, {L"rounded rect", -1}, {L"Rounded-Rect", 1}, {L"pill-shaped", -1},
+      {L"cut_corner", -1},   {L"cut-corner", 4},    {L"slant-left", 8},   {L" PILL\t\n", 2},
+      {L"cutcorner", 4},     {L"SLANTLEFT", 8},     {L"hexagonal", 6},    {L"rhombus", 3},
+      {L"octagon", 5},       {L"rect", 0},          {L"   ", -1},         {L"", -1}};
   const Words kModes = {{L"visualonly", 0}, {L" Skin_Alpha-Hit Test ", 1},
                         {L"ALPHA", 2},      {L"bitmapmaskedlayout", 3},
                         {L"_-", -1},        {L"bitmap", -1},

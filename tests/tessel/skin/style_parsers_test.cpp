@@ -66,17 +66,18 @@ TEST(SurfaceParser, AliasesSwitchesAndEnumerations) {
   EXPECT_EQ(Surface(L"{\"bumpDepth\": 20, \"materialDepth\": 10}").materialDepth, 20);
   EXPECT_EQ(Surface(L"{\"shine\": 5, \"specular\": 9}").specular, 5);
   const SurfaceStyle surface = Surface(
-      L"{\"drawFill\": \"off\", \"show_shadow\": true, \"useNoise\": 1, \"useGradient\": "
-      L"\"maybe\", \"gradientDirection\": \"diagonal\", \"gradientType\": \"radial\", "
-      L"\"uv_mapping\": \"global\", \"nine_slice\": {\"top\": 7}, \"gradient_mid\": \"#112233\"}");
-  // drawFill, showShadow, useNoise, useGradient, gradient direction and kind, uvMapping,
-  // useNineSlice, its top, gradientMid, useGradientMid.
+      L"{\"drawFill\": \"off\", \"drawBorder\": \"maybe\", \"show_shadow\": true, "
+      L"\"useNoise\": 1, \"useGradient\": \"maybe\", \"gradientDirection\": \"diagonal\", "
+      L"\"uv_mapping\": \"global\", \"gradientType\": \"radial\", \"nine_slice\": {\"top\": 7}, "
+      L"\"gradient_mid\": \"#112233\"}");
+  // drawFill, drawBorder, showShadow, useNoise, useGradient, gradient direction and kind,
+  // uvMapping, useNineSlice, its top, gradientMid, useGradientMid.
   EXPECT_EQ(
-      (std::vector<int64_t>{surface.drawFill, surface.showShadow, surface.useNoise,
-                            surface.useGradient, surface.gradientDirection, surface.gradientKind,
-                            surface.uvMapping, surface.useNineSlice, surface.nineSlice.top,
-                            surface.gradientMid, surface.useGradientMid}),
-      (std::vector<int64_t>{0, 1, 1, 0, 4, 2, 1, 1, 7, rgbColor(0x11, 0x22, 0x33), 1}));
+      (std::vector<int64_t>{surface.drawFill, surface.drawBorder, surface.showShadow,
+                            surface.useNoise, surface.useGradient, surface.gradientDirection,
+                            surface.gradientKind, surface.uvMapping, surface.useNineSlice,
+                            surface.nineSlice.top, surface.gradientMid, surface.useGradientMid}),
+      (std::vector<int64_t>{0, 1, 1, 1, 0, 4, 2, 1, 1, 7, rgbColor(0x11, 0x22, 0x33), 1}));
   const SurfaceStyle plain = Surface(L"{\"gradient_mid\": \"#1122\", \"uvMapping\": \"local\"}");
   EXPECT_EQ((std::vector<int64_t>{plain.useGradientMid, plain.useNineSlice, plain.uvMapping}),
             (std::vector<int64_t>{0, 0, 0}));

@@ -19,8 +19,7 @@ SkinDefinition Skin(const std::wstring& members) {
 TEST(StyleSheet, BasesAndPrecedence) {
   const StyleSheet bases(
       Skin(L",\"styles\":{\"button\":{\"b\":{\"base\":\"a\"},\"a\":{\"base\":\"c\",\"surface\":{"
-           L"\"fill\":"
-           L"\"#123456\"}},\"c\":{\"surface\":{\"border\":\"#654321\"}}}}"));
+           L"\"fill\":\"#123456\"}},\"c\":{\"surface\":{\"border\":\"#654321\"}}}}"));
   EXPECT_EQ(bases.buttons.get(L"b").surface.normal.fill, rgbColor(0x12, 0x34, 0x56));
   EXPECT_EQ(bases.buttons.get(L"a").surface.normal.border,
             bases.buttons.get(L"default").surface.normal.border);
