@@ -28,38 +28,9 @@ std::vector<Color> Backdrop(const SurfaceStyle& surface, const SurfaceStyle& par
   return colors;
 }
 
-class Checker {
- public:
-  explicit Checker(const StyleSheet& sheet) : sheet_(sheet) {}
-
-  void text(const std::wstring& where, Color text, const SurfaceStyle& surface, double minimum,
-            const SurfaceStyle* parent = nullptr) {
-    for (Color backdrop : Backdrop(surface, parent ? *parent : sheet_.window().surface)) {
-      const double ratio = ContrastRatio(text, backdrop);
-      if (ratio + 1e-9 < minimum) {
-        problems_.push_back({where, ratio, minimum});
-        return;
-      }
-    }
-  }
-
-  std::vector<ContrastProblem> problems_;
-
- private:
-  const StyleSheet& sheet_;
-};
-
 constexpr double kBody = 4.5;
 constexpr double kSecondary = 3.0;
 constexpr double kDisabled = 2.0;
-
-void Button(Checker& check, const std::wstring& where, const ButtonStyle& button) {
-  check.text(where + L" normal", button.text.color, button.surface.normal, kBody);
-  check.text(where + L" hot", button.text.color, button.surface.hot, kBody);
-  check.text(where + L" pressed", button.text.color, button.surface.pressed, kBody);
-  check.text(where + L" active", button.text.color, button.surface.active, kBody);
-  check.text(where + L" disabled", button.text.disabledColor, button.surface.disabled, kDisabled);
-}
 
 }  // namespace
 
@@ -70,84 +41,95 @@ double ContrastRatio(Color a, Color b) {
 }
 
 std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
-  Checker check(sheet);
+  std::vector<ContrastProblem> problems;
+  const auto text = [&](const std::wstring& where, Color color, const SurfaceStyle& surface,
+                        double minimum, const SurfaceStyle* parent = nullptr) {
+    for (Color backdrop : Backdrop(surface, parent ? *parent : sheet.window().surface)) {
+      const double ratio = ContrastRatio(color, backdrop);
+      if (ratio + 1e-9 < minimum) return problems.push_back({where, ratio, minimum});
+    }
+  };
+  const auto buttonText = [&](const std::wstring& where, const ButtonStyle& b) {
+    text(where + L" normal", b.text.color, b.surface.normal, kBody);
+    text(where + L" hot", b.text.color, b.surface.hot, kBody);
+    text(where + L" pressed", b.text.color, b.surface.pressed, kBody);
+    text(where + L" active", b.text.color, b.surface.active, kBody);
+    text(where + L" disabled", b.text.disabledColor, b.surface.disabled, kDisabled);
+  };
   const TextStyle& body = sheet.text.get(L"default");
   const TextStyle& muted = sheet.text.get(L"muted");
-  check.text(L"window text", body.color, sheet.window().surface, kBody);
+  text(L"window text", body.color, sheet.window().surface, kBody);
   for (const auto& [id, panel] : sheet.panels.all()) {
-    check.text(L"panel " + id + L" text", body.color, panel.surface, kBody);
-    check.text(L"panel " + id + L" muted text", muted.color, panel.surface, kSecondary);
+    text(L"panel " + id + L" text", body.color, panel.surface, kBody);
+    text(L"panel " + id + L" muted text", muted.color, panel.surface, kSecondary);
   }
   for (const auto& [id, card] : sheet.cards.all()) {
-    check.text(L"card " + id + L" title", card.titleText.color, card.header, kBody, &card.surface);
-    check.text(L"card " + id + L" body", body.color, card.surface, kBody);
-    check.text(L"card " + id + L" subtitle", card.subtitleText.color, card.surface, kSecondary);
+    text(L"card " + id + L" title", card.titleText.color, card.header, kBody, &card.surface);
+    text(L"card " + id + L" body", body.color, card.surface, kBody);
+    text(L"card " + id + L" subtitle", card.subtitleText.color, card.surface, kSecondary);
   }
   for (const auto& [id, button] : sheet.buttons.all())
-    Button(check, L"button " + id, button);
+    buttonText(L"button " + id, button);
   for (const auto& [id, chrome] : sheet.chromeTitleBars.all())
-    check.text(L"chrome " + id + L" title", chrome.titleText.color, chrome.surface, kBody);
+    text(L"chrome " + id + L" title", chrome.titleText.color, chrome.surface, kBody);
   for (const auto& [id, chip] : sheet.statusChips.all())
-    check.text(L"status chip " + id, chip.text.color, chip.surface, kBody);
+    text(L"status chip " + id, chip.text.color, chip.surface, kBody);
   for (const auto& [id, box] : sheet.checkBoxes.all()) {
-    check.text(L"check box " + id + L" on the window", box.text.color, sheet.window().surface,
-               kBody);
-    check.text(L"check box " + id + L" on a panel", box.text.color,
-               sheet.panels.get(L"default").surface, kBody);
+    text(L"check box " + id + L" on the window", box.text.color, sheet.window().surface, kBody);
+    text(L"check box " + id + L" on a panel", box.text.color, sheet.panels.get(L"default").surface,
+         kBody);
   }
   for (const auto& [id, select] : sheet.selectBoxes.all()) {
-    check.text(L"select " + id, select.text.color, select.surface.normal, kBody);
-    check.text(L"select " + id + L" hot", select.text.color, select.surface.hot, kBody);
-    check.text(L"select " + id + L" dropdown", select.text.color, select.dropdownSurface, kBody);
-    check.text(L"select " + id + L" option hot", select.text.color, select.optionSurface.hot, kBody,
-               &select.dropdownSurface);
-    check.text(L"select " + id + L" option selected", select.text.color,
-               select.optionSurface.active, kBody, &select.dropdownSurface);
+    text(L"select " + id, select.text.color, select.surface.normal, kBody);
+    text(L"select " + id + L" hot", select.text.color, select.surface.hot, kBody);
+    text(L"select " + id + L" dropdown", select.text.color, select.dropdownSurface, kBody);
+    text(L"select " + id + L" option hot", select.text.color, select.optionSurface.hot, kBody,
+         &select.dropdownSurface);
+    text(L"select " + id + L" option selected", select.text.color, select.optionSurface.active,
+         kBody, &select.dropdownSurface);
   }
   for (const auto& [id, list] : sheet.listBoxes.all()) {
-    check.text(L"list " + id, list.text.color, list.surface, kBody);
-    check.text(L"list " + id + L" selected", list.selectedText.color, list.selectedRow.normal,
-               kBody, &list.surface);
+    text(L"list " + id, list.text.color, list.surface, kBody);
+    text(L"list " + id + L" selected", list.selectedText.color, list.selectedRow.normal, kBody,
+         &list.surface);
   }
   for (const auto& [id, table] : sheet.tableLists.all()) {
-    check.text(L"table " + id + L" header", table.headerText.color, table.header, kBody,
-               &table.surface);
-    check.text(L"table " + id + L" row", table.rowText.color, table.row, kBody, &table.surface);
-    check.text(L"table " + id + L" selected", table.selectedText.color, table.selectedRow, kBody,
-               &table.surface);
+    text(L"table " + id + L" header", table.headerText.color, table.header, kBody, &table.surface);
+    text(L"table " + id + L" row", table.rowText.color, table.row, kBody, &table.surface);
+    text(L"table " + id + L" selected", table.selectedText.color, table.selectedRow, kBody,
+         &table.surface);
   }
   for (const auto& [id, input] : sheet.textInputs.all()) {
-    check.text(L"input " + id, input.text.color, input.surface.normal, kBody);
-    check.text(L"input " + id + L" focused", input.text.color, input.surface.active, kBody);
-    check.text(L"input " + id + L" placeholder", input.placeholderText.color, input.surface.normal,
-               kSecondary);
+    text(L"input " + id, input.text.color, input.surface.normal, kBody);
+    text(L"input " + id + L" focused", input.text.color, input.surface.active, kBody);
+    text(L"input " + id + L" placeholder", input.placeholderText.color, input.surface.normal,
+         kSecondary);
   }
-  for (const auto& [id, text] : sheet.selectableTexts.all())
-    check.text(L"selectable text " + id, text.text.color, text.surface, kBody);
+  for (const auto& [id, selectable] : sheet.selectableTexts.all())
+    text(L"selectable text " + id, selectable.text.color, selectable.surface, kBody);
   for (const auto& [id, rich] : sheet.richTexts.all()) {
-    check.text(L"rich text " + id, rich.text.color, rich.surface, kBody);
-    check.text(L"rich text " + id + L" link", rich.linkText.color, rich.surface, kBody);
+    text(L"rich text " + id, rich.text.color, rich.surface, kBody);
+    text(L"rich text " + id + L" link", rich.linkText.color, rich.surface, kBody);
   }
   for (const auto& [id, popup] : sheet.popups.all()) {
-    check.text(L"popup " + id + L" title", popup.titleText.color, popup.header, kBody,
-               &popup.surface);
-    check.text(L"popup " + id + L" message", popup.messageText.color, popup.surface, kBody);
-    Button(check, L"popup " + id + L" primary", popup.primaryAction);
-    Button(check, L"popup " + id + L" secondary", popup.secondaryAction);
+    text(L"popup " + id + L" title", popup.titleText.color, popup.header, kBody, &popup.surface);
+    text(L"popup " + id + L" message", popup.messageText.color, popup.surface, kBody);
+    buttonText(L"popup " + id + L" primary", popup.primaryAction);
+    buttonText(L"popup " + id + L" secondary", popup.secondaryAction);
   }
   for (const auto& [id, tip] : sheet.tooltips.all())
-    check.text(L"tooltip " + id, tip.textStyle.color, tip.surface, kBody);
+    text(L"tooltip " + id, tip.textStyle.color, tip.surface, kBody);
   for (const auto& [id, menu] : sheet.menuBars.all()) {
-    check.text(L"menu " + id, menu.itemText.color, menu.surface, kBody);
-    check.text(L"menu " + id + L" popup", menu.itemText.color, menu.popupSurface, kBody);
-    check.text(L"menu " + id + L" hot item", menu.itemText.color, menu.popupItemSurface.hot, kBody,
-               &menu.popupSurface);
+    text(L"menu " + id, menu.itemText.color, menu.surface, kBody);
+    text(L"menu " + id + L" popup", menu.itemText.color, menu.popupSurface, kBody);
+    text(L"menu " + id + L" hot item", menu.itemText.color, menu.popupItemSurface.hot, kBody,
+         &menu.popupSurface);
   }
   for (const auto& [id, tabs] : sheet.tabStrips.all())
-    Button(check, L"tab " + id, tabs.itemButton);
+    buttonText(L"tab " + id, tabs.itemButton);
   for (const auto& [id, date] : sheet.dateInputs.all())
-    check.text(L"date input " + id, date.text.color, date.surface.normal, kBody);
-  return check.problems_;
+    text(L"date input " + id, date.text.color, date.surface.normal, kBody);
+  return problems;
 }
 
 std::vector<std::wstring> FindIndistinctButtonStates(const StyleSheet& sheet) {

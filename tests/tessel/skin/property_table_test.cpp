@@ -5,86 +5,44 @@
 namespace tessel {
 namespace {
 
-struct KeyCase {
-  const wchar_t* text;
-  const wchar_t* key;
-};
-
-const KeyCase kKeyCases[] = {
-    {L"font_family", L"fontfamily"},
-    {L"fontFamily", L"fontfamily"},
-    {L"font-family", L"fontfamily"},
-    {L" FONT FAMILY ", L"fontfamily"},
-    {L"a\tb", L"ab"},
-    {L"", L""},
-    {L"_-", L""},
-};
-
-TEST(NormalizeKey, OneKeyForEverySpelling) {
-  for (const KeyCase& c : kKeyCases)
-    EXPECT_EQ(normalizeKey(c.text), c.key) << c.text;
+// Case, blanks, "_" and "-" don't count in a key; a path drops its empty segments.
+TEST(NormalizeKeyPath, OneKeyForEverySpellingAndNoEmptySegments) {
+  const std::pair<const wchar_t*, const wchar_t*> kPaths[] = {
+      {L"a\tb", L"ab"},     {L" FONT FAMILY ", L"fontfamily"},
+      {L".a.b.", L"a.b"},   {L"Surface.Hot.Border", L"surface.hot.border"},
+      {L"a. _ .b", L"a.b"}, {L"Nine_Slice..Left", L"nineslice.left"},
+      {L"_-", L""},         {L"font_family", L"fontfamily"},
+      {L"...", L""},        {L"", L""},
+      {L"a..b", L"a.b"}};
+  for (const auto& [text, key] : kPaths)
+    EXPECT_EQ(normalizeKeyPath(text), key) << text;
 }
 
-const KeyCase kPathCases[] = {
-    {L"Nine_Slice..Left", L"nineslice.left"},
-    {L"a..b", L"a.b"},
-    {L".a.b.", L"a.b"},
-    {L"a. _ .b", L"a.b"},
-    {L"...", L""},
-    {L"Surface.Hot.Border", L"surface.hot.border"},
-};
-
-TEST(NormalizeKeyPath, NormalizesSegmentsAndDropsEmptyOnes) {
-  for (const KeyCase& c : kPathCases)
-    EXPECT_EQ(normalizeKeyPath(c.text), c.key) << c.text;
-}
-
-PropertyTable Flatten(const wchar_t* json, const std::wstring& prefix = L"") {
-  JsonValue value;
-  EXPECT_TRUE(parseJsonText(json, value)) << "fixture does not parse";
-  PropertyTable table;
-  flattenProperties(value, prefix, table);
-  return table;
-}
-
-struct FlattenCase {
-  const char* what;
-  const wchar_t* json;
-  PropertyTable expected;
-};
-
-const FlattenCase kFlattenCases[] = {
-    {"array skips null and nested values", L"{\"a\":[1,null,\"x\",[2]]}", {{L"a", L"1,x"}}},
-    {"array of numbers", L"{\"padding\":[18, 14, 18, 18]}", {{L"padding", L"18,14,18,18"}}},
-    {"nested object becomes a dotted key",
-     L"{\"nine_slice\": {\"left\": 32}}",
-     {{L"nineslice.left", L"32"}}},
-    {"null and empty text store nothing", L"{\"a\":null,\"b\":\"\",\"c\":[]}", {}},
-    {"booleans and fractions", L"{\"On\":true,\"x\":0.25}", {{L"on", L"true"}, {L"x", L"0.25"}}},
-    {"spellings meet in one key; the later member in key order wins",
-     L"{\"fontFamily\":\"A\",\"font_family\":\"B\"}",
-     {{L"fontfamily", L"B"}}},
-    {"deep paths",
-     L"{\"surface\":{\"hot\":{\"Border\":\"#FFFFFF\"}}}",
-     {{L"surface.hot.border", L"#FFFFFF"}}},
-};
-
+// Arrays become comma lists without null and nested values; spellings meet in one key, where the
+// later member in key order wins.
 TEST(FlattenProperties, TurnsObjectsIntoDottedKeys) {
-  for (const FlattenCase& c : kFlattenCases)
-    EXPECT_EQ(Flatten(c.json), c.expected) << c.what;
-}
-
-TEST(FlattenProperties, PrefixAndScalarRoot) {
-  EXPECT_EQ(Flatten(L"{\"b\":1}", L"Style"), (PropertyTable{{L"style.b", L"1"}}));
-  EXPECT_EQ(Flatten(L"5", L"a_b"), (PropertyTable{{L"ab", L"5"}}));
-}
-
-TEST(FlattenProperties, OverwritesAnExistingEntry) {
-  PropertyTable table{{L"a", L"old"}, {L"keep", L"1"}};
-  JsonValue value;
-  ASSERT_TRUE(parseJsonText(L"{\"a\":\"new\"}", value));
-  flattenProperties(value, L"", table);
-  EXPECT_EQ(table, (PropertyTable{{L"a", L"new"}, {L"keep", L"1"}}));
+  const struct {
+    const wchar_t* json;
+    const wchar_t* prefix;
+    PropertyTable expected;
+  } kCases[] = {{L"{\"a\":[1,null,\"x\",[2]]}", L"", {{L"a", L"1,x"}}},
+                {L"{\"nine_slice\": {\"left\": 32}}", L"", {{L"nineslice.left", L"32"}}},
+                {L"{\"a\":null,\"b\":\"\",\"c\":[]}", L"", {}},
+                {L"{\"On\":true,\"x\":0.25,\"y\":-2.9999999,\"z\":1234567.5}",
+                 L"",
+                 {{L"on", L"true"}, {L"x", L"0.25"}, {L"y", L"-3"}, {L"z", L"1.23457e+06"}}},
+                {L"{\"fontFamily\":\"A\",\"font_family\":\"B\"}", L"", {{L"fontfamily", L"B"}}},
+                {L"{\"b\":1}", L"Style", {{L"style.b", L"1"}}},
+                {L"5", L"a_b", {{L"ab", L"5"}}},
+                {L"{\"a\":\"new\"}", L"", {{L"a", L"new"}, {L"keep", L"1"}}}};
+  for (const auto& c : kCases) {
+    JsonValue value;
+    ASSERT_TRUE(parseJsonText(c.json, value)) << c.json;
+    PropertyTable table;
+    if (c.expected.contains(L"keep")) table = {{L"a", L"old"}, {L"keep", L"1"}};
+    flattenProperties(value, c.prefix, table);
+    EXPECT_EQ(table, c.expected) << c.json;
+  }
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tessel/skin/material_preset.h"
+
 namespace tessel {
 namespace {
 
@@ -11,159 +13,112 @@ JsonValue Parse(const std::wstring& json) {
   return value;
 }
 
-std::vector<SkinDefinition> Documents(const std::wstring& json) {
-  return parseSkinDocuments(Parse(json));
-}
-
 SkinDefinition Skin(const std::wstring& members) {
   SkinDefinition skin;
   EXPECT_TRUE(parseSkinDefinition(Parse(L"{\"id\":\"s\",\"name\":\"S\"" + members + L"}"), skin));
   return skin;
 }
 
-struct FormCase {
-  const char* what;
-  const wchar_t* json;
-  std::vector<std::wstring> ids;
-};
-
-const FormCase kFormCases[] = {
-    {"array", L"[{\"id\":\"a\",\"name\":\"A\"},{\"id\":\"b\",\"name\":\"B\"}]", {L"a", L"b"}},
-    {"object with skins",
-     L"{\"skins\":[{\"id\":\"a\",\"name\":\"A\"}],\"id\":\"x\",\"name\":\"X\"}",
-     {L"a"}},
-    {"object with one skin", L"{\"skin\":{\"id\":\"a\",\"name\":\"A\"}}", {L"a"}},
-    {"the object itself", L"{\"id\":\"a\",\"name\":\"A\"}", {L"a"}},
-    {"skins that is not an array falls to the object",
-     L"{\"skins\":{},\"id\":\"o\",\"name\":\"O\"}",
-     {L"o"}},
-    {"a scalar", L"\"a\"", {}},
-    {"one good and one bad skin",
-     L"{\"skins\":[{\"id\":\"\",\"name\":\"A\"},{\"id\":\"b\",\"name\":\"B\"}]}",
-     {L"b"}},
-    {"id that is not a string",
-     L"[{\"id\":5,\"name\":\"A\"},{\"id\":\"c\",\"name\":\"C\"}]",
-     {L"c"}},
-    {"missing name", L"[{\"id\":\"a\"}]", {}},
-};
-
+// A "skins" that is no list falls to the object itself; skins without id or name are dropped.
 TEST(ParseSkinDocuments, TopLevelForms) {
-  for (const FormCase& c : kFormCases) {
+  const std::pair<const wchar_t*, std::vector<std::wstring>> kCases[] = {
+      {L"[{\"id\":\"a\",\"name\":\"A\"},{\"id\":\"b\",\"name\":\"B\"}]", {L"a", L"b"}},
+      {L"{\"skins\":[{\"id\":\"a\",\"name\":\"A\"}],\"id\":\"x\",\"name\":\"X\"}", {L"a"}},
+      {L"{\"id\":\"a\",\"name\":\"A\"}", {L"a"}},
+      {L"{\"skins\":{},\"id\":\"o\",\"name\":\"O\"}", {L"o"}},
+      {L"\"a\"", {}},
+      {L"{\"skin\":{\"id\":\"a\",\"name\":\"A\"}}", {L"a"}},
+      {L"{\"skins\":[{\"id\":\"\",\"name\":\"A\"},{\"id\":\"b\",\"name\":\"B\"}]}", {L"b"}},
+      {L"[{\"id\":5,\"name\":\"A\"},{\"id\":\"c\",\"name\":\"C\"}]", {L"c"}},
+      {L"[{\"id\":\"a\"}]", {}}};
+  for (const auto& [json, expected] : kCases) {
     std::vector<std::wstring> ids;
-    for (const SkinDefinition& skin : Documents(c.json))
+    for (const SkinDefinition& skin : parseSkinDocuments(Parse(json)))
       ids.push_back(skin.id);
-    EXPECT_EQ(ids, c.ids) << c.what;
+    EXPECT_EQ(ids, expected) << json;
   }
 }
 
-TEST(ParseSkinDefinition, DefaultsWithoutTheme) {
-  const SkinDefinition skin = Skin(L"");
-  const Theme defaults;
-  EXPECT_EQ(skin.theme.panel, defaults.panel);
-  EXPECT_EQ(skin.surfaceMode, SurfaceMode::Sculpted3d);
-  EXPECT_EQ(skin.category, L"custom");
-  EXPECT_EQ(skin.harmony, L"custom");
-  EXPECT_EQ(skin.tags, (std::vector<std::wstring>{L"custom", L"external"}));
-  EXPECT_FALSE(skin.materials.enabled);
-  EXPECT_EQ(skin.materials.tint, defaults.textHot);
-}
-
-TEST(ParseSkinDefinition, WrongKindsCountAsAbsent) {
+// Members of the wrong kind count as absent; tags are completed by category, harmony, "external".
+TEST(ParseSkinDefinition, WrongKindsCountAsAbsentAndTagsAreCompleted) {
   const SkinDefinition skin =
       Skin(L",\"theme\":\"dark\",\"surface_mode\":3,\"category\":7,\"materials\":\"glass\"");
   EXPECT_EQ(skin.theme.panel, Theme().panel);
   EXPECT_EQ(skin.surfaceMode, SurfaceMode::Sculpted3d);
   EXPECT_EQ(skin.category, L"custom");
   EXPECT_FALSE(skin.materials.enabled);
-  EXPECT_EQ(Skin(L",\"surface_mode\":\"neon\"").surfaceMode, SurfaceMode::Sculpted3d);
+  EXPECT_EQ(skin.materials.tint, Theme().textHot);
   EXPECT_EQ(Skin(L",\"surfaceMode\":\" Windows-Clean \"").surfaceMode, SurfaceMode::WindowsClean);
-}
-
-TEST(ParseSkinDefinition, TagsSplitLowerCasedAndCompleted) {
   EXPECT_EQ(Skin(L",\"tags\":\"A|b|a\",\"category\":\"Dark\",\"harmony\":\"mono\"").tags,
             (std::vector<std::wstring>{L"a", L"b", L"dark", L"mono", L"external"}));
   EXPECT_EQ(Skin(L",\"tags\":[\"X\",5,\"\",\"x\",\"y\"]").tags,
             (std::vector<std::wstring>{L"x", L"y", L"custom", L"external"}));
 }
 
+// The first string among the surface keys decides, preset words before kind words; any word
+// switches the material on at the strength 150.
 TEST(ParseMaterialProfile, PresetsKindsAndClamps) {
-  const SkinDefinition zula = Skin(L",\"materials\":{\"surface\":\"zula\"}");
-  EXPECT_TRUE(zula.materials.enabled);
-  EXPECT_EQ(zula.materials.surface, MaterialKind::Granite);
-  EXPECT_EQ(zula.materials.control, MaterialKind::Granite);
-  EXPECT_EQ(zula.materials.accent, MaterialKind::Granite);
-  EXPECT_EQ(zula.materials.tint, rgbColor(0x70, 0x6C, 0x68));
-  EXPECT_EQ(zula.materials.roughness, 118);
-  EXPECT_EQ(zula.materials.finish, 1);
-  EXPECT_EQ(zula.materials.strength, 150);
-
-  const SkinDefinition glass = Skin(L",\"materials\":{\"surface\":\"glass\",\"accent\":\"ruby\"}");
-  EXPECT_TRUE(glass.materials.enabled);
-  EXPECT_EQ(glass.materials.surface, MaterialKind::Glass);
-  EXPECT_EQ(glass.materials.control, MaterialKind::Glass);
-  EXPECT_EQ(glass.materials.accent, MaterialKind::Gemstone);  // a preset's kind only
-  EXPECT_EQ(glass.materials.strength, 150);
-  EXPECT_EQ(glass.materials.tint, Theme().textHot);
-
-  const SkinDefinition strong =
-      Skin(L",\"materials\":{\"material\":\"metal\",\"strength\":300,\"ao\":-4,\"scale\":900}");
-  EXPECT_EQ(strong.materials.strength, 255);
-  EXPECT_EQ(strong.materials.ambientOcclusion, 0);
-  EXPECT_EQ(strong.materials.scale, 900);
-
-  const SkinDefinition off = Skin(L",\"materials\":{\"surface\":\"glass\",\"enabled\":\"no\"}");
-  EXPECT_FALSE(off.materials.enabled);
-  const SkinDefinition nothing = Skin(L",\"materials\":{\"strength\":90}");
-  EXPECT_FALSE(nothing.materials.enabled);
-  EXPECT_EQ(nothing.materials.strength, 90);
-
-  // The first string among the surface keys decides; preset words win over kind words.
-  const SkinDefinition first = Skin(L",\"materials\":{\"preset\":7,\"surface\":\"marble\"}");
-  EXPECT_EQ(first.materials.surface, MaterialKind::Marble);
-  EXPECT_EQ(first.materials.tint, rgbColor(0xD6, 0xD0, 0xC4));
-  const SkinDefinition tinted =
-      Skin(L",\"theme\":{\"text_hot\":\"#123456\"},\"materials\":{\"surface\":\"paper\"}");
-  EXPECT_EQ(tinted.materials.tint, rgbColor(0x12, 0x34, 0x56));
+  const auto profile = [](const std::wstring& members) {
+    return Skin(L",\"theme\":{\"text_hot\":\"#123456\"},\"materials\":{" + members + L"}")
+        .materials;
+  };
+  using K = MaterialKind;
+  const MaterialProfile zula = profile(L"\"surface\":\"zula\"");
+  EXPECT_EQ((std::vector{zula.surface, zula.control, zula.accent}),
+            (std::vector{K::Granite, K::Granite, K::Granite}));
+  EXPECT_EQ(zula.tint, findMaterialPreset(L"granite")->tint);
+  EXPECT_EQ(zula.roughness, findMaterialPreset(L"granite")->roughness);
+  EXPECT_EQ(zula.finish, Finish::Polished);
+  EXPECT_EQ(zula.strength, 150);
+  const MaterialProfile glass = profile(L"\"preset\":7,\"surface\":\"glass\",\"accent\":\"ruby\"");
+  EXPECT_EQ((std::vector{glass.surface, glass.control, glass.accent}),
+            (std::vector{K::Glass, K::Glass, K::Gemstone}));
+  EXPECT_EQ(glass.strength, 150);
+  EXPECT_EQ(glass.tint, rgbColor(0x12, 0x34, 0x56));
+  EXPECT_TRUE(glass.enabled);
+  EXPECT_TRUE(profile(L"\"controls\":\"metal\"").enabled);
+  const MaterialProfile strong =
+      profile(L"\"material\":\"metal\",\"strength\":300,\"ao\":-4,\"scale\":900");
+  EXPECT_EQ((std::vector{strong.strength, strong.ambientOcclusion, strong.scale}),
+            (std::vector{255, 0, 900}));
+  EXPECT_FALSE(profile(L"\"surface\":\"glass\",\"enabled\":\"no\"").enabled);
+  const MaterialProfile nothing = profile(L"\"strength\":90");
+  EXPECT_FALSE(nothing.enabled);
+  EXPECT_EQ(nothing.strength, 90);
 }
 
 TEST(ParseShapeSet, RolesPartsAndScrollMetrics) {
-  const SkinDefinition skin = Skin(
-      L",\"shapes\":{\"buttons\":{\"primaryButton\":\"pill\",\"default\":\"bevel\"},"
-      L"\"title_bar\":\"slant-right\",\"card\":\"octagon\",\"progress_bar\":{\"rail\":\"capsule\"},"
-      L"\"scroll_bar\":{\"handle\":{\"value\":\"pill\"},\"trackThickness\":9,\"show_buttons\":true}"
-      L","
-      L"\"window\":\"blob\"}");
-  const ShapeSet& set = skin.shapes;
-  ASSERT_NE(set.find(L"button.primary"), nullptr);
-  EXPECT_EQ(*set.find(L"button.primary"), ShapeKind::Capsule);
-  EXPECT_EQ(*set.find(L"button.secondary"), ShapeKind::Bevel);
-  EXPECT_EQ(set.find(L"button"), nullptr);
-  EXPECT_EQ(*set.find(L"chrome"), ShapeKind::SlantRight);
-  EXPECT_EQ(*set.find(L"card"), ShapeKind::Octagon);
-  EXPECT_EQ(*set.find(L"progress.track"), ShapeKind::Capsule);
-  EXPECT_EQ(*set.find(L"scroll.thumb"), ShapeKind::Capsule);
-  EXPECT_EQ(set.scrollTrackThickness, 9);
-  EXPECT_EQ(set.scrollShowButtons, 1);
-  EXPECT_EQ(set.scrollButtonExtent, -1);
-  EXPECT_EQ(set.find(L"window"), nullptr);  // an unknown spelling sets nothing
+  const ShapeSet set =
+      Skin(
+          L",\"shapes\":{\"buttons\":{\"primaryButton\":\"pill\",\"default\":\"bevel\"},"
+          L"\"title_bar\":\"slant-right\",\"card\":\"octagon\",\"progress_bar\":{\"rail\":"
+          L"\"capsule\"},\"scroll_bar\":{\"handle\":{\"value\":\"pill\"},\"trackThickness\":9,"
+          L"\"show_buttons\":true},\"window\":\"blob\"}")
+          .shapes;
+  // -1: no shape; "window" has an unknown word.
+  const std::pair<const wchar_t*, int> kRoles[] = {
+      {L"progress.track", int(ShapeKind::Capsule)}, {L"scroll.thumb", int(ShapeKind::Capsule)},
+      {L"button.primary", int(ShapeKind::Capsule)}, {L"button", -1},
+      {L"button.secondary", int(ShapeKind::Bevel)}, {L"card", int(ShapeKind::Octagon)},
+      {L"chrome", int(ShapeKind::SlantRight)},      {L"window", -1}};
+  for (const auto& [role, kind] : kRoles)
+    EXPECT_EQ(set.find(role) ? int(*set.find(role)) : -1, kind) << role;
+  EXPECT_EQ((std::vector{set.scrollTrackThickness, set.scrollShowButtons, set.scrollButtonExtent}),
+            (std::vector{9, 1, -1}));
 }
 
+// Styles, then variants, each in sorted order; an empty id is "default"; empty entries drop.
 TEST(ParseSkinDefinition, OverridesInSortedOrderStylesThenVariants) {
   const SkinDefinition skin = Skin(
       L",\"variants\":{\"Button\":{\"z\":{\"fill\":\"#000000\"}}},"
       L"\"styles\":{\"panel\":{\"b\":{\"padding\":1},\"A\":{\"padding\":2},\"\":{\"padding\":3},"
       L"\"skip\":\"string\",\"empty\":{\"x\":null}},\"button\":{\"Stayhold-Primary\":{\"shape\":"
       L"\"pill\"}},\"bad\":5}");
-  std::vector<std::pair<std::wstring, std::wstring>> order;
+  std::vector<std::wstring> order;
   for (const StyleOverride& entry : skin.overrides)
-    order.emplace_back(entry.type, entry.id);
-  const std::vector<std::pair<std::wstring, std::wstring>> expected = {
-      {L"button", L"stayholdprimary"},
-      {L"panel", L"default"},
-      {L"panel", L"a"},
-      {L"panel", L"b"},
-      {L"button", L"z"}};
-  EXPECT_EQ(order, expected);
+    order.push_back(entry.type + L" " + entry.id);
+  EXPECT_EQ(order, (std::vector<std::wstring>{L"button stayholdprimary", L"panel default",
+                                              L"panel a", L"panel b", L"button z"}));
 }
 
 }  // namespace

@@ -2,122 +2,59 @@
 
 #include <gtest/gtest.h>
 
-#include <cwctype>
-#include <set>
-#include <string>
-
 namespace tessel {
 namespace {
 
-std::wstring Upper(std::wstring text) {
-  for (wchar_t& c : text)
-    c = static_cast<wchar_t>(std::towupper(c));
-  return text;
+using Parser = bool (*)(const std::wstring&, int32_t&);
+
+template <typename T, bool (*parse)(const std::wstring&, T&)>
+bool As(const std::wstring& text, int32_t& value) {
+  T typed = static_cast<T>(value);
+  const bool parsed = parse(text, typed);
+  value = static_cast<int32_t>(typed);
+  return parsed;
 }
 
-struct ShapeCase {
-  const wchar_t* text;
-  ShapeKind kind;
-};
+constexpr Parser kShape = As<ShapeKind, parseShapeKind>;
+constexpr Parser kGeometry = As<GeometryMode, parseGeometryMode>;
+constexpr Parser kDirection = parseGradientDirection;
+constexpr Parser kGradient = parseGradientKind;
 
-// A few words skins use, at least one per kind.
-const ShapeCase kShapeCases[] = {
-    {L"rect", ShapeKind::Rectangle},       {L"rounded-rect", ShapeKind::RoundedRect},
-    {L"pill", ShapeKind::Capsule},         {L"rounded", ShapeKind::Capsule},
-    {L"rhombus", ShapeKind::Diamond},      {L"cut-corner", ShapeKind::Bevel},
-    {L"chamfered", ShapeKind::Bevel},      {L"octagon", ShapeKind::Octagon},
-    {L"hexagonal", ShapeKind::Hexagon},    {L"parallelogram", ShapeKind::SlantRight},
-    {L"slant-left", ShapeKind::SlantLeft},
-};
+using Words = std::pair<const wchar_t*, int32_t>[];
 
-// Start from a kind the word does not name, so that a no-op cannot pass.
-ShapeKind OtherThan(ShapeKind kind) {
-  return kind == ShapeKind::Octagon ? ShapeKind::Diamond : ShapeKind::Octagon;
-}
-
-TEST(ParseShapeKind, WordsReachEveryKindWhateverTheCaseAndSurroundingBlanks) {
-  std::set<ShapeKind> reached;
-  for (const ShapeCase& c : kShapeCases) {
-    for (const std::wstring& text :
-         {std::wstring(c.text), Upper(c.text), L"  " + std::wstring(c.text) + L"\t\n"}) {
-      ShapeKind kind = OtherThan(c.kind);
-      EXPECT_TRUE(parseShapeKind(text, kind)) << text;
-      EXPECT_EQ(kind, c.kind) << text;
-    }
-    reached.insert(c.kind);
-  }
-  for (int32_t number = 0; number <= static_cast<int32_t>(ShapeKind::SlantLeft); ++number)
-    EXPECT_EQ(reached.count(static_cast<ShapeKind>(number)), 1u) << "no word for kind " << number;
-}
-
-TEST(ParseShapeKind, HyphenAndItsAbsenceAreBothWordsButAnUnderscoreIsNot) {
-  for (const ShapeCase& c : kShapeCases) {
-    const std::wstring word = c.text;
-    if (word.find(L'-') == std::wstring::npos) continue;
-    std::wstring joined, underscored = word;
-    for (wchar_t ch : word)
-      if (ch != L'-') joined += ch;
-    for (wchar_t& ch : underscored)
-      if (ch == L'-') ch = L'_';
-    ShapeKind kind = OtherThan(c.kind);
-    EXPECT_TRUE(parseShapeKind(joined, kind)) << joined;
-    EXPECT_EQ(kind, c.kind) << joined;
-    kind = OtherThan(c.kind);
-    EXPECT_FALSE(parseShapeKind(underscored, kind)) << underscored;
-    EXPECT_EQ(kind, OtherThan(c.kind)) << underscored;
+// A refused word (-1) leaves the value.
+template <size_t N>
+void ExpectWords(Parser parse, const std::pair<const wchar_t*, int32_t> (&cases)[N]) {
+  for (const auto& [text, expected] : cases) {
+    int32_t value = 99;
+    EXPECT_EQ(parse(text, value), expected >= 0) << text;
+    EXPECT_EQ(value, expected >= 0 ? expected : 99) << text;
   }
 }
 
-TEST(ParseShapeKind, UnknownSpellingLeavesTheValue) {
-  // Shape words are not key-normalized: underscores and inner blanks make a different word.
-  const wchar_t* const kUnknown[] = {L"",    L"   ",   L"cut_corner", L"rounded rect",
-                                     L"hex", L"slant", L"circle",     L"pill-shaped",
-                                     L"0",   L"2"};
-  for (const wchar_t* text : kUnknown) {
-    ShapeKind kind = ShapeKind::SlantLeft;
-    EXPECT_FALSE(parseShapeKind(text, kind)) << text;
-    EXPECT_EQ(kind, ShapeKind::SlantLeft) << text;
-  }
-}
-
-struct ModeCase {
-  const wchar_t* text;
-  GeometryMode mode;
-};
-
-const ModeCase kModeCases[] = {
-    {L"visualonly", GeometryMode::FallbackShape},
-    {L"skinalphahittest", GeometryMode::SkinAlphaHitTest},
-    {L"alpha", GeometryMode::SkinAlphaLayout},
-    {L"bitmapmaskedlayout", GeometryMode::MaskAlphaLayout},
-};
-
-TEST(ParseGeometryMode, WordsReachEveryModeAndAreComparedAsKeys) {
-  std::set<GeometryMode> reached;
-  for (const ModeCase& c : kModeCases) {
-    // Compared as keys: case, "_", "-" and blanks do not matter.
-    std::wstring spaced;
-    for (const wchar_t ch : std::wstring(c.text))
-      spaced += spaced.empty() ? std::wstring(1, ch) : std::wstring(L"_-") + ch;
-    for (const std::wstring& text : {std::wstring(c.text), Upper(c.text), L" " + spaced + L" "}) {
-      GeometryMode mode = c.mode == GeometryMode::MaskAlphaLayout ? GeometryMode::FallbackShape
-                                                                  : GeometryMode::MaskAlphaLayout;
-      EXPECT_TRUE(parseGeometryMode(text, mode)) << text;
-      EXPECT_EQ(mode, c.mode) << text;
-    }
-    reached.insert(c.mode);
-  }
-  for (int32_t number = 0; number <= static_cast<int32_t>(GeometryMode::MaskAlphaLayout); ++number)
-    EXPECT_EQ(reached.count(static_cast<GeometryMode>(number)), 1u) << "no word for " << number;
-}
-
-TEST(ParseGeometryMode, UnknownSpellingLeavesTheValue) {
-  const wchar_t* const kUnknown[] = {L"", L"_-", L"bitmap", L"hit", L"layout", L"masked", L"1"};
-  for (const wchar_t* text : kUnknown) {
-    GeometryMode mode = GeometryMode::SkinAlphaHitTest;
-    EXPECT_FALSE(parseGeometryMode(text, mode)) << text;
-    EXPECT_EQ(mode, GeometryMode::SkinAlphaHitTest) << text;
-  }
+// Shape words are only trimmed and lower-cased; the others are compared as keys. Numbers are the
+// stored values of the kinds.
+TEST(SkinWords, WordsAndRefusals) {
+  const Words kShapes = {
+      {L"parallelogram", 7}, {L"rounded rect", -1}, {L"Rounded-Rect", 1}, {L"pill-shaped", -1},
+      {L"cut_corner", -1},   {L"cut-corner", 4},    {L"slant-left", 8},   {L" PILL\t\n", 2},
+      {L"cutcorner", 4},     {L"SLANTLEFT", 8},     {L"hexagonal", 6},    {L"rhombus", 3},
+      {L"octagon", 5},       {L"rect", 0},          {L"   ", -1},         {L"", -1}};
+  const Words kModes = {{L"visualonly", 0}, {L" Skin_Alpha-Hit Test ", 1},
+                        {L"ALPHA", 2},      {L"bitmapmaskedlayout", 3},
+                        {L"_-", -1},        {L"bitmap", -1},
+                        {L"masked", -1},    {L"1", -1}};
+  const Words kDirections = {
+      {L"Top_To_Bottom", 0}, {L"up", 1},       {L"right", 2},   {L"right-to-left", 3},
+      {L"diagonal", 4},      {L"downleft", 5}, {L"upright", 6}, {L"upleft", 7},
+      {L"sideways", -1},     {L"7", 7},        {L"8", -1}};
+  const Words kGradients = {{L"linear", 0}, {L"0", 0},       {L"mirrored", 1},
+                            {L"circle", 2}, {L"diamond", 3}, {L"Angular", 4},
+                            {L"5", -1},     {L"spiral", -1}, {L"", -1}};
+  ExpectWords(kShape, kShapes);
+  ExpectWords(kGeometry, kModes);
+  ExpectWords(kDirection, kDirections);
+  ExpectWords(kGradient, kGradients);
 }
 
 }  // namespace
