@@ -5,36 +5,200 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <type_traits>
 #include <typeinfo>
+#include <vector>
 
 namespace tessel {
 namespace {
 
-// A record's keys differ after normalizing, and none doubles as a shape key.
+using AllRecords =
+    std::tuple<ScrollAcceleration, ButtonStyle, BitmapButtonStyle, PanelStyle, CardStyle,
+               ChromeTitleBarStyle, StatusChipStyle, ProgressBarStyle, ScrollBarStyle,
+               CheckBoxStyle, SelectBoxStyle, HierarchicalListBoxStyle, DateInputStyle,
+               TabStripStyle, MenuBarStyle, TableListStyle, RichTextStyle, TextInputStyle,
+               SelectableTextStyle, PopupStyle, TooltipStyle, WindowStyle>;
+
+template <typename F>
+void ForEachRecord(F&& f) {
+  std::apply([&](auto... record) { (f(record), ...); }, AllRecords());
+}
+
+template <typename Record>
+std::string RecordName() {
+  return typeid(Record).name();
+}
+
+std::string Narrow(const std::wstring& text) {
+  return std::string(text.begin(), text.end());
+}
+
+// Skins normalize keys, so two spellings that normalize alike are one key: a record's keys must
+// differ after normalizing, and no field key may double as a shape key.
 TEST(StyleFieldTables, EveryKeyOfARecordIsSpelledOnce) {
-  std::apply(
-      [](auto... records) {
-        const auto check = [](auto record) {
-          using Record = decltype(record);
-          SCOPED_TRACE(typeid(Record).name());
-          std::map<std::wstring, int> keys, shapeKeys;
-          for (const StyleField<Record>& field : StyleFields<Record>::rows) {
-            for (const wchar_t* key : field.keys)
-              if (key != nullptr && *key != L'\0') ++keys[normalizeKey(key)];
-            for (const wchar_t* key : field.shapeKeys)
-              if (key != nullptr) shapeKeys[normalizeKey(key)] = 1;
-          }
-          EXPECT_FALSE(keys.empty());
-          for (const auto& [key, count] : keys)
-            EXPECT_EQ(count + shapeKeys.count(key), 1u) << std::string(key.begin(), key.end());
-        };
-        (check(records), ...);
-      },
-      std::tuple<ScrollAcceleration, ButtonStyle, BitmapButtonStyle, PanelStyle, CardStyle,
-                 ChromeTitleBarStyle, StatusChipStyle, ProgressBarStyle, ScrollBarStyle,
-                 CheckBoxStyle, SelectBoxStyle, HierarchicalListBoxStyle, DateInputStyle,
-                 TabStripStyle, MenuBarStyle, TableListStyle, RichTextStyle, TextInputStyle,
-                 SelectableTextStyle, PopupStyle, TooltipStyle, WindowStyle>());
+  ForEachRecord([](auto record) {
+    using Record = decltype(record);
+    SCOPED_TRACE(RecordName<Record>());
+    std::map<std::wstring, int> keys;
+    std::map<std::wstring, int> shapeKeys;
+    for (const StyleField<Record>& field : StyleFields<Record>::rows) {
+      for (const wchar_t* key : field.keys)
+        if (key != nullptr && *key != L'\0') ++keys[normalizeKey(key)];
+      for (const wchar_t* key : field.shapeKeys)
+        if (key != nullptr) shapeKeys[normalizeKey(key)] = 1;
+    }
+    EXPECT_FALSE(keys.empty());
+    for (const auto& [key, count] : keys) {
+      EXPECT_EQ(count, 1) << Narrow(key);
+      EXPECT_EQ(shapeKeys.count(key), 0u) << Narrow(key) << " is also a shape key";
+    }
+  });
+}
+
+// Gives the index-th spelling of a field a value of its own under `key`, distinct from what a
+// new record holds.
+template <typename Value>
+void Give(PropertyTable& keys, const std::wstring& key, int index, const Value& fresh) {
+  const std::wstring number = std::to_wstring(30 + index);
+  if constexpr (std::is_same_v<Value, TextStyle>) {
+    keys[normalizeKeyPath(key.empty() ? L"pointSize" : key + L".pointSize")] = number;
+  } else if constexpr (std::is_same_v<Value, TintStates>) {
+    keys[normalizeKeyPath(key.empty() ? L"tintColor" : key + L".color")] = L"#0000" + number;
+  } else if constexpr (std::is_same_v<Value, ScrollAcceleration>) {
+    keys[normalizeKeyPath(key + L".resetMs")] = number;
+  } else if constexpr (std::is_same_v<Value, bool>) {
+    keys[normalizeKeyPath(key)] = fresh ? L"false" : L"true";
+  } else if constexpr (std::is_same_v<Value, Color>) {
+    keys[normalizeKeyPath(key)] = L"#1020" + number;
+  } else if constexpr (std::is_arithmetic_v<Value>) {
+    keys[normalizeKeyPath(key)] = number;
+  } else {
+    ADD_FAILURE() << "no probe for a field with aliases of this kind";
+  }
+}
+
+// Whether the field holds what the index-th spelling was given.
+template <typename Value>
+bool Holds(const Value& value, int index, const Value& fresh) {
+  if constexpr (std::is_same_v<Value, TextStyle>) {
+    return value.pointSize == 30 + index;
+  } else if constexpr (std::is_same_v<Value, TintStates>) {
+    const Color given = rgbColor(0, 0, static_cast<uint32_t>(0x30 + index));
+    return value.normal.color == given && value.disabled.color == given;
+  } else if constexpr (std::is_same_v<Value, ScrollAcceleration>) {
+    return value.resetMs == 30 + index;
+  } else if constexpr (std::is_same_v<Value, bool>) {
+    return value != fresh;
+  } else if constexpr (std::is_same_v<Value, Color>) {
+    return value == rgbColor(0x10, 0x20, static_cast<uint32_t>(0x30 + index));
+  } else if constexpr (std::is_arithmetic_v<Value>) {
+    return value == static_cast<Value>(30 + index);
+  } else {
+    return false;
+  }
+}
+
+// Each spelling of a field alone lands in that field; with all of them given, the last wins.
+TEST(StyleFieldTables, EveryAliasReachesItsFieldAndTheLastWins) {
+  const Theme theme;
+  const StyleContext context{&theme, L""};
+  int fieldsWithAliases = 0;
+  ForEachRecord([&](auto record) {
+    using Record = decltype(record);
+    for (const StyleField<Record>& field : StyleFields<Record>::rows) {
+      std::vector<std::wstring> spellings;
+      for (const wchar_t* key : field.keys)
+        if (key != nullptr) spellings.push_back(key);
+      if (spellings.size() < 2) continue;
+      ++fieldsWithAliases;
+      Record fresh;
+      std::visit(
+          [&](const auto& target) {
+            // Compiled for every kind of member; a record never holds one larger than itself.
+            using Value = std::remove_cvref_t<decltype(field_walk::resolve(fresh, target))>;
+            if constexpr (sizeof(Value) <= sizeof(Record)) {
+              const auto& freshValue = field_walk::resolve(fresh, target);
+              PropertyTable all;
+              for (size_t i = 0; i < spellings.size(); ++i) {
+                SCOPED_TRACE(RecordName<Record>() + " " + Narrow(spellings[i]));
+                const int index = static_cast<int>(i);
+                PropertyTable one;
+                Give(one, spellings[i], index, freshValue);
+                Give(all, spellings[i], index, freshValue);
+                Record parsed;
+                parseStyle(StyleReader(one, L"", context), parsed);
+                EXPECT_TRUE(Holds(field_walk::resolve(parsed, target), index, freshValue));
+              }
+              SCOPED_TRACE(RecordName<Record>() + " all spellings");
+              Record parsed;
+              parseStyle(StyleReader(all, L"", context), parsed);
+              EXPECT_TRUE(Holds(field_walk::resolve(parsed, target),
+                                static_cast<int>(spellings.size()) - 1, freshValue));
+            }
+          },
+          field.target);
+    }
+  });
+  EXPECT_GT(fieldsWithAliases, 0);
+}
+
+// A nested record's main surfaces take the parent's shape key: a tab strip's `shape` shapes its
+// item button's states, a scroll bar's the track, thumb and both buttons.
+TEST(StyleRecordWalk, ShapeKeysReachNestedMainSurfacesAndTheSurfaceOwnShapeWins) {
+  const Theme theme;
+  const StyleContext context{&theme, L""};
+  PropertyTable keys;
+  keys[L"shape"] = L"hexagon";
+  keys[L"itembutton.surface.pressed.shape"] = L"diamond";
+  TabStripStyle tabs;
+  parseStyle(StyleReader(keys, L"", context), tabs);
+  EXPECT_EQ(tabs.itemButton.surface.normal.shape, ShapeKind::Hexagon);
+  EXPECT_EQ(tabs.itemButton.surface.active.shape, ShapeKind::Hexagon);
+  EXPECT_EQ(tabs.itemButton.surface.pressed.shape, ShapeKind::Diamond);
+
+  keys[L"thumbshape"] = L"pill";
+  ScrollBarStyle bar;
+  parseStyle(StyleReader(keys, L"", context), bar);
+  EXPECT_EQ(bar.track.shape, ShapeKind::Hexagon);
+  EXPECT_EQ(bar.decrementButton.hot.shape, ShapeKind::Hexagon);
+  EXPECT_EQ(bar.incrementButton.disabled.shape, ShapeKind::Hexagon);
+  EXPECT_EQ(bar.thumb.normal.shape, ShapeKind::Capsule);  // the later, more special key
+}
+
+TEST(StyleRecordWalk, ShapeStyleReachesOnlyTheMainSurfaces) {
+  ButtonStyle button;
+  shapeStyle(button, ShapeKind::Octagon);
+  for (const SurfaceStyle* state :
+       {&button.surface.normal, &button.surface.hot, &button.surface.pressed,
+        &button.surface.disabled, &button.surface.active})
+    EXPECT_EQ(state->shape, ShapeKind::Octagon);
+  EXPECT_FALSE(button.hitShape.present);
+
+  CardStyle card;
+  shapeStyle(card, ShapeKind::Bevel);
+  EXPECT_EQ(card.surface.shape, ShapeKind::Bevel);
+  EXPECT_NE(card.header.shape, ShapeKind::Bevel);
+}
+
+TEST(StyleRecordWalk, ShapeSetMetricsApplyWhereverAScrollBarIs) {
+  ShapeSet shapes;
+  shapes.scrollThumbThickness = 5;
+  shapes.scrollShowButtons = 1;
+  shapes.shapes[L"scroll.button"] = ShapeKind::Diamond;
+  SelectBoxStyle select;
+  select.scrollBar.buttonExtent = 19;
+  applyShapeRoles(select, shapes);
+  EXPECT_EQ(select.scrollBar.thumbThickness, 5);
+  EXPECT_TRUE(select.scrollBar.showButtons);
+  EXPECT_EQ(select.scrollBar.buttonExtent, 19);  // unset in the shapes block
+  EXPECT_EQ(select.scrollBar.decrementButton.pressed.shape, ShapeKind::Diamond);
+  EXPECT_NE(select.scrollBar.thumb.pressed.shape, ShapeKind::Diamond);
+
+  shapes.scrollShowButtons = 0;
+  HierarchicalListBoxStyle list;
+  list.scrollBar.showButtons = true;
+  applyShapeRoles(list, shapes);
+  EXPECT_FALSE(list.scrollBar.showButtons);
 }
 
 }  // namespace

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
+#include <type_traits>
+
+#include "tessel/skin/style_record.h"
 
 namespace tessel {
 namespace {
@@ -93,6 +97,139 @@ TEST(StyleSheet, TypesIdsWindowAndAliases) {
   EXPECT_EQ(sheet.buttons.get(L"warning-action").surface.normal.fill, rgbColor(1, 2, 3));
   for (const wchar_t* id : {L"danger-action", L"action", L"designed-help"})
     EXPECT_TRUE(sheet.buttons.contains(id)) << id;
+}
+
+// Skins key each state of these controls apart; every spelling lands on its own state alone.
+TEST(StyleSheet, StateKeysLandOnTheirStateAlone) {
+  struct Case {
+    const wchar_t* type;
+    const wchar_t* key;
+    const ControlStates& (*states)(const StyleSheet&);
+    SurfaceStyle ControlStates::*state;
+  };
+  const Case kCases[] = {
+      {L"checkbox", L"boxUncheckedHot",
+       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").unchecked; },
+       &ControlStates::hot},
+      {L"checkbox", L"box_checked_disabled",
+       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").checked; },
+       &ControlStates::disabled},
+      {L"selectbox", L"pressedSurface",
+       [](const StyleSheet& s) -> const ControlStates& { return s.selectBoxes.get(L"x").surface; },
+       &ControlStates::pressed},
+      {L"combo", L"arrowPressedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.selectBoxes.get(L"x").arrowSurface;
+       },
+       &ControlStates::pressed},
+      {L"selectbox", L"optionSelectedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.selectBoxes.get(L"x").optionSurface;
+       },
+       &ControlStates::active},
+      {L"textinput", L"focusedSurface",
+       [](const StyleSheet& s) -> const ControlStates& { return s.textInputs.get(L"x").surface; },
+       &ControlStates::active},
+      {L"dateinput", L"daySelectedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.dateInputs.get(L"x").daySurface;
+       },
+       &ControlStates::active},
+      {L"menubar", L"itemActiveSurface",
+       [](const StyleSheet& s) -> const ControlStates& { return s.menuBars.get(L"x").itemSurface; },
+       &ControlStates::active},
+      {L"menu", L"popupItemPressedSurface",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.menuBars.get(L"x").popupItemSurface;
+       },
+       &ControlStates::pressed},
+      {L"listbox", L"selectedRowHot",
+       [](const StyleSheet& s) -> const ControlStates& {
+         return s.listBoxes.get(L"x").selectedRow;
+       },
+       &ControlStates::hot},
+  };
+  const Color kGiven = rgbColor(0x0A, 0x0B, 0x0C);
+  for (const Case& c : kCases) {
+    const std::wstring type = c.type, key = c.key;
+    SCOPED_TRACE(std::string(key.begin(), key.end()));
+    const StyleSheet sheet(
+        Skin(L",\"styles\":{\"" + type + L"\":{\"x\":{\"" + key + L"\":{\"fill\":\"#0A0B0C\"}}}}"));
+    const ControlStates& states = c.states(sheet);
+    for (SurfaceStyle ControlStates::*state :
+         {&ControlStates::normal, &ControlStates::hot, &ControlStates::pressed,
+          &ControlStates::disabled, &ControlStates::active}) {
+      EXPECT_EQ((states.*state).fill == kGiven, state == c.state);
+    }
+  }
+}
+
+// Hovering strengthens a control's material, pressing and disabling weaken it; a surface on the
+// skin's surface slot never shines above the skin's own strength.
+void ExpectStatesOrdered(const ControlStates& states, const std::string& what) {
+  const SurfaceStyle* const order[] = {&states.hot, &states.normal, &states.pressed,
+                                       &states.disabled};
+  for (size_t i = 0; i < std::size(order); ++i) {
+    for (size_t j = i + 1; j < std::size(order); ++j) {
+      if (order[i]->material == MaterialKind::None || order[j]->material == MaterialKind::None)
+        continue;
+      EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength)
+          << what << " states " << i << " and " << j;
+    }
+  }
+}
+
+template <typename Record>
+void ExpectMaterialOrder(Record record, const std::string& what, int32_t strength) {
+  std::set<const ControlStates*> seen;  // several rows may name states of one set
+  for (const StyleField<Record>& field : StyleFields<Record>::rows) {
+    if (const auto* state = std::get_if<StateOf<Record>>(&field.target)) {
+      if (seen.insert(&(record.*(state->states))).second)
+        ExpectStatesOrdered(record.*(state->states), what);
+      continue;
+    }
+    field_walk::withValue(record, field, [&](auto& value) {
+      using Value = std::remove_reference_t<decltype(value)>;
+      if constexpr (std::is_same_v<Value, ControlStates>) {
+        ExpectStatesOrdered(value, what);
+      } else if constexpr (StyleRecord<Value>) {
+        ExpectMaterialOrder(value, what + " nested", strength);
+      } else if constexpr (std::is_same_v<Value, SurfaceStyle>) {
+        if (field.material.slot == &MaterialProfile::surface) {
+          EXPECT_LE(value.materialStrength, strength) << what;
+        }
+      }
+    });
+  }
+}
+
+TEST(StyleSheet, MaterialStrengthFollowsTheStates) {
+  const StyleSheet sheet(
+      Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
+           L"\"gloss\",\"strength\":120}"));
+  const auto each = [](const auto& map, const char* kind) {
+    for (const auto& [id, record] : map.all())
+      ExpectMaterialOrder(record, kind + std::string(" ") + std::string(id.begin(), id.end()), 120);
+  };
+  each(sheet.buttons, "button");
+  each(sheet.cards, "card");
+  each(sheet.chromeTitleBars, "chrome");
+  each(sheet.statusChips, "chip");
+  each(sheet.progressBars, "progress");
+  each(sheet.scrollBars, "scroll");
+  each(sheet.checkBoxes, "check");
+  each(sheet.selectBoxes, "select");
+  each(sheet.listBoxes, "list");
+  each(sheet.dateInputs, "date");
+  each(sheet.tabStrips, "tabs");
+  each(sheet.menuBars, "menu");
+  each(sheet.tableLists, "table");
+  each(sheet.richTexts, "rich");
+  each(sheet.textInputs, "input");
+  each(sheet.selectableTexts, "selectable");
+  each(sheet.popups, "popup");
+  each(sheet.tooltips, "tooltip");
+  ExpectMaterialOrder(sheet.window(), "window", 120);
 }
 
 }  // namespace
