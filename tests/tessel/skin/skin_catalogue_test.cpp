@@ -30,18 +30,18 @@ class SkinFolder : public ::testing::Test {
 // Only ".json" files, by lower-cased name; a later skin of an id replaces the earlier in place.
 TEST_F(SkinFolder, LoadsFilesInOrderAndLaterSkinsReplaceEarlierOnes) {
   write("90-my-skin.json", SkinJson("mine", "Mine"));
-  write("00-base.json",
-        "[" + SkinJson("a", "A") + "," + SkinJson("b", "B") + "," + SkinJson("A", "Again") + "]");
+  write("00-base.json", std::string("[") + SkinJson("a", "A") + "," + SkinJson("b", "B") + "," +
+                            SkinJson("A", "Again") + "]");
   write("SKIN.JSON", SkinJson("upper", "Upper"));
   write("50-later.json", SkinJson("B", "Later"));
   write("skin.json.bak", SkinJson("backup", "Backup"));
   write("notes.txt", SkinJson("text", "Text"));
   write("sub/05-sub.json", SkinJson("sub", "Sub"));
-  write("a.json", "{\"skins\":[" + SkinJson("good", "Good") + ",{\"id\":\"bad\"}]}");
-  write("b.json", "[" + SkinJson("trailing", "T") + ",]");
+  write("a.json", std::string("{\"skins\":[") + SkinJson("good", "Good") + ",{\"id\":\"bad\"}]}");
+  write("b.json", std::string("[") + SkinJson("trailing", "T") + ",]");
   write("c.json", "[{\"id\":\"x\",\"name\":\"\xC3\"}]");
   write("d.json", "");
-  write("e.json", "\xEF\xBB\xBF" + SkinJson("bom", "Bom"));
+  write("e.json", std::string("\xEF\xBB\xBF") + SkinJson("bom", "Bom"));
   const std::vector<SkinDefinition> skins = loadSkinFolder(folder_.wstring());
   std::vector<std::wstring> names;
   for (const SkinDefinition& skin : skins)
