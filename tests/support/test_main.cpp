@@ -2,16 +2,17 @@
 
 #include "guard/guard_state.h"
 #include "i18n/language.h"
-#ifndef _WIN32
+#ifdef STAYHOLD_FAKE_PLATFORM
 #include "tests/support/fake_platform.h"
 #endif
 
 namespace {
 
-// Every test starts from the default configuration, and natively from a fresh fake platform.
+// Every test starts from the default configuration, and from a fresh fake platform where one is
+// linked in (the Windows suites that use the real platform have none).
 class FreshState : public ::testing::EmptyTestEventListener {
   void OnTestStart(const ::testing::TestInfo&) override {
-#ifndef _WIN32
+#ifdef STAYHOLD_FAKE_PLATFORM
     ResetFakePlatform();
 #endif
     AppConfig() = StayholdConfig();
