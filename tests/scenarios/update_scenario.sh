@@ -3,19 +3,16 @@
 # trusts inside Wine): manifests of every kind, the receive time-out, the download with its
 # progress, SHA-256 and the silent launch of a stand-in setup that records its command line.
 # Nothing leaves 127.0.0.1.
-here=$(cd "$(dirname "$0")" && pwd)
-. "$here/../wine/harness.sh"
+. "$(dirname "$0")/../wine/harness.sh"
 harness_start update
 
 SERVE="$SUITE_DIR/serve"
 mkdir -p "$SERVE"
-SETUP="$STAYHOLD_BUILD/tests/fake_setup.exe"
-cp "$SETUP" "$SERVE/setup.exe"
-SETUP_SUM=$(sha256sum "$SETUP" | cut -d' ' -f1)  # lower case, as a maintainer might write it
+cp "$STAYHOLD_BUILD/tests/fake_setup.exe" "$SERVE/setup.exe"
+SETUP_SUM=$(sha256sum "$SERVE/setup.exe" | cut -d' ' -f1)  # lower case, as a maintainer might write it
 
 server_pids=()
-stop_servers() { for pid in "${server_pids[@]}"; do kill "$pid" 2>/dev/null; wait "$pid" 2>/dev/null; done; }
-trap 'rc=$?; stop_servers; (exit $rc); _harness_stop' EXIT
+trap 'rc=$?; for pid in "${server_pids[@]}"; do _end "$pid"; done; (exit $rc); _harness_stop' EXIT
 
 # Starts the server in the background and sets PORT from its first line.
 start_server() {
@@ -53,8 +50,8 @@ install='"version": "1.0.999", "setup_url": "'"$HTTP"'/setup.exe"'
 manifest install.json "{$install, \"sha256\": \"$SETUP_SUM\"}"
 manifest install_wrong_hash.json "{$install, \"sha256\": \"$(printf '0%.0s' {1..64})\"}"
 manifest install_no_hash.json "{$install}"
-manifest install_no_length.json "{\"version\": \"1.0.999\", \"setup_url\": \"$HTTP/nolength/setup.exe\", \"sha256\": \"$SETUP_SUM\"}"
-manifest install_missing_setup.json "{\"version\": \"1.0.999\", \"setup_url\": \"$HTTP/missing.exe\"}"
+manifest install_no_length.json "{${install/setup.exe/nolength/setup.exe}, \"sha256\": \"$SETUP_SUM\"}"
+manifest install_missing_setup.json "{${install/setup.exe/missing.exe}}"
 manifest withdrawn.json '{"version": "1.0.112"}'
 # What a maintainer publishes, made by the release tool; its own version, so that its setup file
 # is not the one the previous launch may still hold open.
@@ -62,10 +59,8 @@ python3 "$STAYHOLD_SOURCE/update/make_release_manifest.py" --setup "$SERVE/setup
   --version 1.0.998 --setup-url "$HTTP/setup.exe" --changes "New" --changes-cs "Nové \"věci\"" \
   --out "$SERVE/released.json" || fail "the release tool failed"
 
-export STAYHOLD_TEST_HTTP="$HTTP" STAYHOLD_TEST_HTTPS="$HTTPS" STAYHOLD_TEST_CLOSED_PORT="$CLOSED_PORT"
-export STAYHOLD_TEST_SETUP_PATH
-STAYHOLD_TEST_SETUP_PATH=$(win_path "$SERVE/setup.exe")
-export STAYHOLD_TEST_SETUP_SHA256="$SETUP_SUM"
+export STAYHOLD_TEST_HTTP="$HTTP" STAYHOLD_TEST_HTTPS="$HTTPS" STAYHOLD_TEST_CLOSED_PORT="$CLOSED_PORT" \
+  STAYHOLD_TEST_SETUP_PATH="$(win_path "$SERVE/setup.exe")" STAYHOLD_TEST_SETUP_SHA256="$SETUP_SUM"
 WINE_TIMEOUT=180 wine_exe "$STAYHOLD_BUILD/tests/stayhold_update_win32_tests.exe" ||
   fail "the self-update tests failed"
 echo "update scenario: all checks passed"

@@ -22,8 +22,7 @@ class FakeMachineRegistry final : public MachineRegistry {
 
   long CreateKey(const std::wstring& key) override {
     calls.push_back(L"create " + key);
-    auto error = create_errors.find(key);
-    if (error != create_errors.end()) return error->second;
+    if (create_errors.count(key)) return create_errors[key];
     keys[key];
     open_ = key;
     return 0;
@@ -42,12 +41,11 @@ class FakeMachineRegistry final : public MachineRegistry {
   }
 
   bool ReadDword(const std::wstring& key, const std::wstring& name, uint32_t& value) override {
-    auto found_key = keys.find(key);
-    if (found_key == keys.end()) return false;
-    auto found = found_key->second.find(name);
-    if (found == found_key->second.end() || !found->second.dword) return false;
-    value = found->second.data;
-    return true;
+    const auto found = keys.find(key);
+    if (found == keys.end() || !found->second.count(name)) return false;
+    const Value& read = found->second.at(name);
+    if (read.dword) value = read.data;
+    return read.dword;
   }
 
  private:

@@ -1,7 +1,5 @@
 #include "tests/support/fake_platform.h"
 
-#include <cwctype>
-
 #include "base/wide_text.h"
 #include "guard/install_folder.h"
 #include "guard/log.h"
@@ -43,29 +41,22 @@ ModuleFileName ReadModuleFileName() {
 }
 
 bool KnownFolderPath(KnownFolder folder, std::wstring& out) {
-  auto found = Fake().known_folders.find(folder);
-  if (found == Fake().known_folders.end()) return false;
-  out = found->second;
+  if (!Fake().known_folders.count(folder)) return false;
+  out = Fake().known_folders[folder];
   return true;
 }
 
 std::wstring TempFolder() {
-  return Fake().temp_folder;
+  return L"C:\\Users\\ada\\AppData\\Local\\Temp\\";
 }
 
 bool AbsolutePath(const std::wstring& path, std::wstring& out) {
-  // Enough of Windows' rule for tests: drive-absolute and UNC paths stand, others join the
-  // current folder; "?" stands for a path the platform rejects.
+  // Enough of Windows' rule for tests, with C:\Work as the current folder: drive-absolute and
+  // UNC paths stand, others join the current folder; "?" stands for a path the platform rejects.
   if (path.find(L'?') != std::wstring::npos) return false;
   const bool drive = path.size() >= 3 && path[1] == L':' && path[2] == L'\\';
-  const bool unc = path.size() >= 2 && path[0] == L'\\' && path[1] == L'\\';
-  if (drive || unc) {
-    out = path;
-  } else if (!path.empty() && path[0] == L'\\') {
-    out = Fake().current_directory.substr(0, 2) + path;
-  } else {
-    out = Fake().current_directory + L"\\" + path;
-  }
+  const bool absolute = drive || path.starts_with(L"\\\\");
+  out = absolute ? path : path.starts_with(L"\\") ? L"C:" + path : L"C:\\Work\\" + path;
   return true;
 }
 
@@ -99,26 +90,25 @@ std::wstring SystemUiLocaleName() {
 }
 
 bool LocaleInfoText(const std::wstring& tag, uint32_t lctype, std::wstring& out) {
-  static const std::map<std::wstring, std::vector<std::wstring>> kDayNames = {
+  // The native and the English name of the language, then the day names from Monday.
+  static const std::map<std::wstring, std::vector<std::wstring>> kTexts = {
       {L"en-US",
-       {L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday", L"Sunday"}},
-      {L"cs-CZ", {L"pondělí", L"úterý", L"středa", L"čtvrtek", L"pátek", L"sobota", L"neděle"}},
+       {L"English", L"English", L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday",
+        L"Saturday", L"Sunday"}},
+      {L"cs-CZ",
+       {L"čeština", L"Czech", L"pondělí", L"úterý", L"středa", L"čtvrtek", L"pátek", L"sobota",
+        L"neděle"}},
   };
-  static const std::map<std::wstring, std::pair<std::wstring, std::wstring>> kLanguageNames = {
-      {L"en-US", {L"English", L"English"}},
-      {L"cs-CZ", {L"čeština", L"Czech"}},
-  };
-  if (lctype == kLocaleNativeDisplayName || lctype == kLocaleEnglishDisplayName) {
-    auto names = kLanguageNames.find(tag);
-    if (names == kLanguageNames.end()) return false;
-    out = lctype == kLocaleNativeDisplayName ? names->second.first : names->second.second;
-    return true;
-  }
-  auto found = kDayNames.find(tag);
-  if (found == kDayNames.end() || lctype < kLocaleDayName1 || lctype > kLocaleDayName1 + 6) {
+  size_t index = 0;
+  if (lctype == kLocaleEnglishDisplayName)
+    index = 1;
+  else if (lctype >= kLocaleDayName1 && lctype <= kLocaleDayName1 + 6)
+    index = 2 + lctype - kLocaleDayName1;
+  else if (lctype != kLocaleNativeDisplayName)
     return false;
-  }
-  out = found->second[lctype - kLocaleDayName1];
+  auto found = kTexts.find(tag);
+  if (found == kTexts.end()) return false;
+  out = found->second[index];
   return true;
 }
 
@@ -132,12 +122,8 @@ void AppendLog(const std::wstring& message) {
 
 bool FetchUpdateManifest(const std::wstring& url, std::wstring& text, std::wstring& error) {
   auto found = Fake().http.find(url);
-  if (found == Fake().http.end()) {
-    error = L"Update manifest request failed.";
-    return false;
-  }
-  if (!found->second.ok) {
-    error = found->second.error;
+  if (found == Fake().http.end() || !found->second.ok) {
+    error = found == Fake().http.end() ? L"Update manifest request failed." : found->second.error;
     return false;
   }
   text = found->second.text;

@@ -12,8 +12,7 @@
 
 struct FakeHttpResponse {
   bool ok = true;
-  std::wstring text;
-  std::wstring error;
+  std::wstring text, error;
 };
 
 struct FakePlatform {
@@ -26,11 +25,8 @@ struct FakePlatform {
       {KnownFolder::CommonPrograms, L"C:\\ProgramData\\Microsoft\\Windows\\Start Menu\\Programs"},
       {KnownFolder::Desktop, L"C:\\Users\\ada\\Desktop"},
   };
-  std::wstring temp_folder = L"C:\\Users\\ada\\AppData\\Local\\Temp\\";
-  std::wstring current_directory = L"C:\\Work";
   ModuleFileName module = {L"C:\\Apps\\Stayhold\\Stayhold.exe", 30};
-  std::set<std::wstring> files;
-  std::set<std::wstring> directories;
+  std::set<std::wstring> files, directories;
   std::map<std::wstring, std::wstring> install_locations;  // registry key -> value
   std::vector<std::wstring> opened;                        // ShellOpen calls
   std::vector<std::wstring> created_directories;
@@ -39,6 +35,5 @@ struct FakePlatform {
   std::map<std::wstring, FakeHttpResponse> http;  // url -> what a fetch gets
 };
 
-// Reset to the defaults above before each test.
 FakePlatform& Fake();
-void ResetFakePlatform();
+void ResetFakePlatform();  // before each test

@@ -6,12 +6,8 @@
 
 #include "i18n/language.h"
 
-inline std::wstring& GivenLanguageSetting() {
-  static std::wstring setting;
-  return setting;
-}
-
 inline void UseLanguageSetting(const std::wstring& setting) {
-  GivenLanguageSetting() = setting;
-  SetLanguageSettingReader([] { return GivenLanguageSetting(); });
+  static std::wstring given;
+  given = setting;
+  SetLanguageSettingReader([] { return given; });
 }

@@ -1,6 +1,7 @@
 #include "tests/support/memory_profile_store.h"
 
-#include <cwctype>
+#include <algorithm>
+#include <cwchar>
 
 #include "i18n/locale_system.h"
 #include "tests/support/fake_platform.h"
@@ -8,99 +9,82 @@
 namespace {
 
 // Section and key names compare without case, as the profile functions do.
-bool SameName(const std::wstring& a, const std::wstring& b) {
-  return EqualsOrdinalIgnoreCase(a, b);
-}
-
 template <typename List>
 auto FindNamed(List& list, const std::wstring& name) {
-  for (auto it = list.begin(); it != list.end(); ++it) {
-    if (SameName(it->first, name)) return it;
-  }
-  return list.end();
+  return std::find_if(list.begin(), list.end(),
+                      [&](const auto& item) { return EqualsOrdinalIgnoreCase(item.first, name); });
+}
+
+// A folder in the file's place refuses every change; a change that is not refused counts.
+bool Writable(MemoryProfileStore& store, const std::wstring& path) {
+  if (Fake().directories.count(path)) return false;
+  ++store.writes;
+  return true;
+}
+
+template <typename Files>
+auto SectionOf(Files& files, const std::wstring& path, const std::wstring& section) {
+  auto file = files.find(path);
+  decltype(&FindNamed(file->second, section)->second) found = nullptr;
+  if (file == files.end()) return found;
+  auto sec = FindNamed(file->second, section);
+  if (sec != file->second.end()) found = &sec->second;
+  return found;
 }
 
 }  // namespace
 
 const std::wstring* MemoryProfileStore::Find(const std::wstring& path, const std::wstring& section,
                                              const std::wstring& key) const {
-  auto file = files.find(path);
-  if (file == files.end()) return nullptr;
-  auto sec = FindNamed(file->second, section);
-  if (sec == file->second.end()) return nullptr;
-  auto value = FindNamed(sec->second, key);
-  return value == sec->second.end() ? nullptr : &value->second;
+  const Section* sec = SectionOf(files, path, section);
+  if (!sec) return nullptr;
+  auto value = FindNamed(*sec, key);
+  return value == sec->end() ? nullptr : &value->second;
 }
 
 bool MemoryProfileStore::HasSection(const std::wstring& path, const std::wstring& section) const {
-  auto file = files.find(path);
-  return file != files.end() && FindNamed(file->second, section) != file->second.end();
+  return SectionOf(files, path, section) != nullptr;
 }
 
 int MemoryProfileStore::ReadInt(const std::wstring& path, const std::wstring& section,
                                 const std::wstring& key, int fallback) {
   const std::wstring* value = Find(path, section, key);
   if (!value) return fallback;
-  // The leading decimal number, with an optional sign; 0 when there is none.
-  size_t at = 0;
-  while (at < value->size() && std::iswspace(static_cast<wint_t>((*value)[at])))
-    ++at;
-  bool negative = false;
-  if (at < value->size() && ((*value)[at] == L'-' || (*value)[at] == L'+')) {
-    negative = (*value)[at++] == L'-';
-  }
-  long long number = 0;
-  while (at < value->size() && (*value)[at] >= L'0' && (*value)[at] <= L'9') {
-    number = number * 10 + ((*value)[at++] - L'0');
-    if (number > 0xFFFFFFFFll) number = 0xFFFFFFFFll;
-  }
-  return static_cast<int>(static_cast<unsigned>(negative ? -number : number));
+  // The leading decimal number with an optional sign, saturated at 32 bits; 0 when there is none.
+  const long long number = std::wcstoll(value->c_str(), nullptr, 10);
+  return static_cast<int>(static_cast<unsigned>(std::clamp(number, -0xFFFFFFFFll, 0xFFFFFFFFll)));
 }
 
 std::wstring MemoryProfileStore::ReadString(const std::wstring& path, const std::wstring& section,
                                             const std::wstring& key, const std::wstring& fallback) {
   const std::wstring* value = Find(path, section, key);
-  std::wstring text = value ? *value : fallback;
-  if (text.size() > kIniTextBufferChars - 1) text.resize(kIniTextBufferChars - 1);
-  return text;
+  return (value ? *value : fallback).substr(0, kIniTextBufferChars - 1);
 }
 
 bool MemoryProfileStore::WriteString(const std::wstring& path, const std::wstring& section,
                                      const std::wstring& key, const std::wstring& value) {
-  if (Fake().directories.count(path)) return false;
-  ++writes;
+  if (!Writable(*this, path)) return false;
   Fake().files.insert(path);
   File& file = files[path];
-  auto sec = FindNamed(file, section);
-  if (sec == file.end()) {
-    file.push_back({section, {}});
-    sec = file.end() - 1;
-  }
-  auto entry = FindNamed(sec->second, key);
-  if (entry == sec->second.end()) {
-    sec->second.push_back({key, value});
-  } else {
-    entry->second = value;
-  }
+  if (FindNamed(file, section) == file.end()) file.push_back({section, {}});
+  Section& sec = FindNamed(file, section)->second;
+  if (FindNamed(sec, key) == sec.end()) sec.push_back({key, L""});
+  FindNamed(sec, key)->second = value;
   return true;
 }
 
 bool MemoryProfileStore::DeleteKey(const std::wstring& path, const std::wstring& section,
                                    const std::wstring& key) {
-  if (Fake().directories.count(path)) return false;
-  ++writes;
-  auto file = files.find(path);
-  if (file == files.end()) return true;
-  auto sec = FindNamed(file->second, section);
-  if (sec == file->second.end()) return true;
-  auto entry = FindNamed(sec->second, key);
-  if (entry != sec->second.end()) sec->second.erase(entry);
+  if (!Writable(*this, path)) return false;
+  if (Section* sec = SectionOf(files, path, section)) {
+    auto entry = FindNamed(*sec, key);
+    if (entry != sec->end()) sec->erase(entry);
+  }
   return true;
 }
 
 bool MemoryProfileStore::DeleteSection(const std::wstring& path, const std::wstring& section) {
-  if (Fake().directories.count(path)) return false;
-  ++writes;
+  if (!Writable(*this, path)) return false;
   auto file = files.find(path);
   if (file == files.end()) return true;
   auto sec = FindNamed(file->second, section);

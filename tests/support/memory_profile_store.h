@@ -1,6 +1,5 @@
-// INI files held in memory with the profile functions' semantics, for native tests. Files live in
-// the fake platform's file set, so the code under test sees them appear and can be refused
-// (a folder in the file's place).
+// INI files held in memory with the profile functions' semantics, for native tests. Files join
+// the fake platform's file set; a folder in a file's place refuses writes.
 #pragma once
 
 #include <map>
@@ -28,7 +27,7 @@ class MemoryProfileStore final : public ProfileStore {
                  const std::wstring& key) override;
   bool DeleteSection(const std::wstring& path, const std::wstring& section) override;
 
-  // Test helpers: put a whole file in place (registering it as existing), find a value.
+  // Test helpers: put a whole file in place, find a value or a section.
   void Put(const std::wstring& path, const File& file);
   const std::wstring* Find(const std::wstring& path, const std::wstring& section,
                            const std::wstring& key) const;

@@ -1,8 +1,6 @@
-// PNG files of memory images, for people to look at (contact sheets, galleries) and as golden
-// images of whole skins. Written 8-bit, un-premultiplied, as RGB when every pixel is opaque and
-// as RGBA otherwise, deflated by zlib with a per-row filter. The reader takes back what the
-// writer writes (8-bit RGB or RGBA, not interlaced) and premultiplies it again, which is exact
-// for opaque pixels.
+// PNG files of memory images, for people to look at and as golden images of whole skins: 8-bit,
+// un-premultiplied, RGB when every pixel is opaque, else RGBA, Paeth-filtered. The reader
+// takes back what the writer writes and premultiplies again, which is exact for opaque pixels.
 #pragma once
 
 #include <filesystem>

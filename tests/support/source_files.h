@@ -1,5 +1,4 @@
-// Where the tests find files of the source tree (fixtures, shipped skins and images), in the
-// native build and in the Windows build run under Wine, which sees the same tree on drive Z:.
+// Where the tests find files of the source tree, natively and under Wine (the tree on drive Z:).
 #pragma once
 
 #include <filesystem>

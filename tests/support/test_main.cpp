@@ -2,14 +2,19 @@
 
 #include "guard/guard_state.h"
 #include "i18n/language.h"
+#ifdef STAYHOLD_FAKE_PLATFORM
 #include "tests/support/fake_platform.h"
+#endif
 
 namespace {
 
-// Every test starts from a fresh platform and default configuration.
+// Every test starts from the default configuration, and from a fresh fake platform where one is
+// linked in (the Windows suites that use the real platform have none).
 class FreshState : public ::testing::EmptyTestEventListener {
   void OnTestStart(const ::testing::TestInfo&) override {
+#ifdef STAYHOLD_FAKE_PLATFORM
     ResetFakePlatform();
+#endif
     AppConfig() = StayholdConfig();
     // As the application does at start: the interface speaks the configuration's language.
     SetLanguageSettingReader(&ConfiguredLanguage);

@@ -2,19 +2,15 @@
 // line it was started with into %TEMP%\stayhold_fake_setup_args.txt (UTF-8) and ends.
 #include <windows.h>
 
-#include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR command_line, int) {
-  wchar_t temp[MAX_PATH] = {};
-  GetTempPathW(MAX_PATH, temp);
-  const std::wstring path = std::wstring(temp) + L"stayhold_fake_setup_args.txt";
-  const int size = WideCharToMultiByte(CP_UTF8, 0, command_line, -1, nullptr, 0, nullptr, nullptr);
-  std::string text(size > 0 ? static_cast<size_t>(size - 1) : 0, '\0');
-  WideCharToMultiByte(CP_UTF8, 0, command_line, -1, text.data(), size, nullptr, nullptr);
-  if (FILE* file = _wfopen(path.c_str(), L"wb")) {
-    std::fwrite(text.data(), 1, text.size(), file);
-    std::fclose(file);
-  }
+  // A path converts its wide text to UTF-8 unchanged; nothing here is read as a file name.
+  const std::u8string text = std::filesystem::path(command_line).u8string();
+  std::ofstream(std::filesystem::temp_directory_path() / "stayhold_fake_setup_args.txt",
+                std::ios::binary)
+      .write(reinterpret_cast<const char*>(text.data()), std::streamsize(text.size()));
   return 0;
 }

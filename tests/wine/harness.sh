@@ -2,16 +2,10 @@
 # run_in_prefix.sh. Each suite gets a fresh WINEPREFIX copied from a template in the build tree,
 # its own Xvfb when there is no display, and a persistent wineserver; all three are ended by their
 # own ids when the suite exits. Artifacts (log, config.ini, screenshots) are kept on failure.
-#
-# Needs STAYHOLD_BUILD (the Windows build tree). Provides:
-#   harness_start NAME      set up the suite; installs the clean-up trap
-#   wine_exe EXE ARGS...    run a Windows program under a timeout (WINE_TIMEOUT, default 60 s)
-#   wintool ARGS...         the helper of tests/wine/wintool.cpp
-#   win_exit_code MS EXE... full 32-bit exit code of EXE, read inside Windows
-#   data_dir, log_file      Linux paths of the user's Stayhold data folder and log
-#   shot NAME               screenshot of the whole screen into the artifacts
-#   fail MESSAGE            report and end the suite with failure
-#   window_up               the guard's hidden window exists
+# Needs STAYHOLD_BUILD (the Windows build tree). Provides harness_start NAME (sets LOG, the
+# guard's log), wine_exe, wintool (tests/wine/wintool.cpp), win_exit_code MS EXE... (full 32 bits),
+# start_guard MS [ARGS] ($APP in the background once its window is up), guard_ends / stop_guard
+# (WM_CLOSE; both want exit code 0), expect_query, log_has, expect_log TEXT [SECONDS], log_lines.
 set -u
 
 : "${STAYHOLD_BUILD:?STAYHOLD_BUILD must name the Windows build tree}"
@@ -21,9 +15,8 @@ export WINEDEBUG=-all
 # No Mono or Gecko prompts, and a crash must never open the debugger in a headless run.
 export WINEDLLOVERRIDES="mscoree,mshtml=;winedbg.exe=d"
 WINE_TIMEOUT=${WINE_TIMEOUT:-60}
-
-_xvfb_pid=""
-_wineserver_pid=""
+APP="$STAYHOLD_BUILD/Stayhold.exe"
+_xvfb_pid="" _wineserver_pid=""
 
 # A display number of its own, chosen at random: suites start and end side by side, and a number
 # just given up by one suite's server is not handed to the next.
@@ -43,16 +36,15 @@ _start_xvfb() {
       export DISPLAY=":$number"
       return 0
     fi
-    kill "$_xvfb_pid" 2>/dev/null
-    wait "$_xvfb_pid" 2>/dev/null
+    _end "$_xvfb_pid"
     _xvfb_pid=""
   done
   rm -f "$fifo"
-  echo "harness: Xvfb did not start" >&2
-  return 1
+  fail "harness: Xvfb did not start"
 }
 
-_template_prefix() {
+# Made once per build tree; suites copy it.
+_make_template_prefix() {
   local template="$STAYHOLD_BUILD/wine-template"
   (
     flock 9
@@ -68,11 +60,7 @@ _template_prefix() {
       done
       touch "$template/.ready-2"
     fi
-  ) 9>"$STAYHOLD_BUILD/wine-template.lock" || {
-    echo "harness: the template prefix could not be made" >&2
-    return 1
-  }
-  echo "$template"
+  ) 9>"$STAYHOLD_BUILD/wine-template.lock" || fail "harness: the template prefix could not be made"
 }
 
 harness_start() {
@@ -82,52 +70,38 @@ harness_start() {
   rm -rf "$SUITE_DIR" "$ARTIFACTS"
   mkdir -p "$SUITE_DIR" "$ARTIFACTS"
   trap _harness_stop EXIT
-  _start_xvfb || exit 1
-  local template
-  template=$(_template_prefix) || exit 1
-  cp -a "$template" "$SUITE_DIR/prefix"
+  _start_xvfb
+  _make_template_prefix
+  cp -a "$STAYHOLD_BUILD/wine-template" "$SUITE_DIR/prefix"
   export WINEPREFIX="$SUITE_DIR/prefix"
   wineserver -f -p >/dev/null 2>&1 &
   _wineserver_pid=$!
   WIN_USER=$(ls "$WINEPREFIX/drive_c/users" | grep -v -x -e Public -e Default | head -n 1)
+  LOG="$(data_dir)/logs/stayhold.log"
   # Start the desktop now and prove that windows can be made, so that no test meets a display
   # that is not ready.
-  wait_for 30 wintool window probe || {
-    echo "harness: Wine cannot create a window on $DISPLAY" >&2
-    exit 1
-  }
+  wait_for 30 wintool window probe || fail "harness: Wine cannot create a window on $DISPLAY"
 }
+
+_end() { kill "$1" 2>/dev/null && wait "$1" 2>/dev/null; }
 
 _harness_stop() {
   local status=$?
   if [ "$status" -ne 0 ]; then
-    _keep_artifacts
+    [ -n "${LOG:-}" ] && cp "$LOG" "$(data_dir)/config.ini" "$ARTIFACTS/" 2>/dev/null
+    shot failure >/dev/null 2>&1
     echo "harness: suite $SUITE failed; artifacts in $ARTIFACTS" >&2
   fi
   if [ -n "$_wineserver_pid" ]; then
     timeout -k 2 15 wineserver -k >/dev/null 2>&1
-    kill "$_wineserver_pid" 2>/dev/null
-    wait "$_wineserver_pid" 2>/dev/null
+    _end "$_wineserver_pid"
   fi
-  if [ -n "$_xvfb_pid" ]; then
-    kill "$_xvfb_pid" 2>/dev/null
-    wait "$_xvfb_pid" 2>/dev/null
-  fi
+  [ -n "$_xvfb_pid" ] && _end "$_xvfb_pid"
   [ "$status" -eq 0 ] && rm -rf "$SUITE_DIR"
   exit "$status"
 }
 
-_keep_artifacts() {
-  local data
-  data=$(data_dir 2>/dev/null) || return 0
-  [ -f "$data/logs/stayhold.log" ] && cp "$data/logs/stayhold.log" "$ARTIFACTS/"
-  [ -f "$data/config.ini" ] && cp "$data/config.ini" "$ARTIFACTS/"
-  shot failure >/dev/null 2>&1 || true
-}
-
-wine_exe() {
-  timeout -k 5 "$WINE_TIMEOUT" "$WINE64" "$@"
-}
+wine_exe() { timeout -k 5 "$WINE_TIMEOUT" "$WINE64" "$@"; }
 
 wintool() {
   local out status
@@ -139,9 +113,8 @@ wintool() {
 
 # Prints the full exit code, or "timeout"; a failure to start fails the suite.
 win_exit_code() {
-  local limit="$1"
+  local limit="$1" out
   shift
-  local out
   out=$(wintool run "$limit" "$@")
   case "$out" in
     exit=*) echo "${out#exit=}" ;;
@@ -151,27 +124,37 @@ win_exit_code() {
   esac
 }
 
-window_up() {
-  wintool find StayholdHiddenWindow >/dev/null
+window_up() { wintool find StayholdHiddenWindow >/dev/null; }
+
+start_guard() {
+  win_exit_code $(($1 + 20000)) "$APP" --exit-after-ms="$1" "${@:2}" >"$SUITE_DIR/guard.code" &
+  guard_pid=$!
+  wait_for 20 window_up || fail "the hidden window did not appear"
 }
 
-data_dir() {
-  echo "$WINEPREFIX/drive_c/users/$WIN_USER/AppData/Local/Stayhold"
+guard_ends() {
+  wait "$guard_pid"
+  [ "$(cat "$SUITE_DIR/guard.code")" = 0 ] || fail "the guard ended with $(cat "$SUITE_DIR/guard.code")"
 }
 
-log_file() {
-  echo "$(data_dir)/logs/stayhold.log"
+stop_guard() {
+  wintool post StayholdHiddenWindow 0x0010 0 0 >/dev/null || fail "could not post WM_CLOSE"
+  guard_ends
 }
 
-# Windows path of a Linux path (Wine maps / to Z:).
-win_path() {
-  echo "Z:$1" | tr '/' '\\'
+expect_query() {
+  local got
+  got=$(wintool send StayholdHiddenWindow 0x0011 0 "$1" | sed -n 's/^result=//p')
+  [ "$got" = "$2" ] || fail "$3: WM_QUERYENDSESSION($1) answered '$got', expected $2"
 }
 
-shot() {
-  import -window root "$ARTIFACTS/$1.png" && echo "$ARTIFACTS/$1.png"
-}
+log_has() { [ -f "$LOG" ] && grep -q -- "  $1\$" "$LOG"; }
+expect_log() { wait_for "${2:-0}" log_has "$1" || fail "no '$1' line in the log"; }
+log_lines() { [ -f "$LOG" ] && grep -c '' "$LOG" || echo 0; }
 
+data_dir() { echo "$WINEPREFIX/drive_c/users/$WIN_USER/AppData/Local/Stayhold"; }
+win_path() { echo "Z:$1" | tr '/' '\\'; }  # Wine maps / to Z:
+shot() { import -window root "$ARTIFACTS/$1.png" && echo "$ARTIFACTS/$1.png"; }
 fail() {
   echo "FAIL: $*" >&2
   exit 1
@@ -179,9 +162,8 @@ fail() {
 
 # Runs until the condition command succeeds or the seconds run out.
 wait_for() {
-  local seconds="$1"
+  local end=$((SECONDS + $1))
   shift
-  local end=$((SECONDS + seconds))
   until "$@"; do
     [ "$SECONDS" -ge "$end" ] && return 1
     sleep 0.1

@@ -1,16 +1,10 @@
 #!/usr/bin/env python3
-"""A loopback HTTP(S) server for the self-update tests. Serves the files of a folder on
-127.0.0.1 and a few special paths:
-
-  /status/NNN          answers with that HTTP status and an empty body
-  /stall               accepts the request and sends nothing for 4 seconds, then closes
-  /nolength/NAME       the file NAME without a Content-Length header (close-delimited)
-
-usage: update_server.py FOLDER [--cert CERT.pem --key KEY.pem]
-Prints the port it listens on as the first line of standard output, then serves until killed
-or for at most 10 minutes.
+"""usage: update_server.py FOLDER [--cert CERT.pem --key KEY.pem]
+A loopback HTTP(S) server for the self-update tests: the files of FOLDER on 127.0.0.1, and
+/status/NNN (that status, empty body), /stall (nothing for 4 seconds, then closed) and
+/nolength/NAME (the file NAME without a Content-Length header, close-delimited). Prints its port
+as the first line, then serves until killed or for at most 10 minutes.
 """
-import argparse
 import http.server
 import os
 import ssl
@@ -27,27 +21,19 @@ class Handler(http.server.BaseHTTPRequestHandler):
 
     def do_GET(self):
         path = self.path.split("?", 1)[0]
-        if path.startswith("/status/"):
-            self.send_response(int(path[len("/status/"):]))
-            self.send_header("Content-Length", "0")
-            self.end_headers()
-            return
         if path == "/stall":
             time.sleep(4)
             self.close_connection = True
             return
-        no_length = path.startswith("/nolength/")
-        name = path[len("/nolength/"):] if no_length else path.lstrip("/")
-        file = os.path.join(self.folder, os.path.basename(name))
-        if not os.path.isfile(file):
-            self.send_response(404)
-            self.send_header("Content-Length", "0")
-            self.end_headers()
-            return
-        with open(file, "rb") as f:
-            body = f.read()
-        self.send_response(200)
-        if no_length:
+        file = os.path.join(self.folder, os.path.basename(path))
+        status, body = 404, b""
+        if path.startswith("/status/"):
+            status = int(path[len("/status/"):])
+        elif os.path.isfile(file):
+            with open(file, "rb") as f:
+                status, body = 200, f.read()
+        self.send_response(status)
+        if status == 200 and path.startswith("/nolength/"):
             self.send_header("Connection", "close")
             self.close_connection = True
         else:
@@ -57,17 +43,13 @@ class Handler(http.server.BaseHTTPRequestHandler):
 
 
 def main():
-    parser = argparse.ArgumentParser()
-    parser.add_argument("folder")
-    parser.add_argument("--cert")
-    parser.add_argument("--key")
-    args = parser.parse_args()
-    Handler.folder = args.folder
+    args = sys.argv[1:]
+    Handler.folder = args[0]
     server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Handler)
     server.daemon_threads = True
-    if args.cert:
+    if "--cert" in args:
         context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
-        context.load_cert_chain(args.cert, args.key)
+        context.load_cert_chain(args[args.index("--cert") + 1], args[args.index("--key") + 1])
         server.socket = context.wrap_socket(server.socket, server_side=True)
     print(server.server_address[1], flush=True)
     threading.Timer(600, server.shutdown).start()  # never outlive a test run

@@ -3,14 +3,12 @@
 //   wintool run TIMEOUT_MS EXE [ARGS...]        prints "exit=N" (full 32 bits) or "timeout"
 //   wintool find CLASS                          prints the window's facts; exit 1 when absent
 //   wintool send CLASS MSG WPARAM LPARAM [MS]   SendMessageTimeoutW; prints "result=N"
-//   wintool post CLASS MSG WPARAM LPARAM        PostMessageW
-//   wintool wait-gone CLASS TIMEOUT_MS          exit 0 once no window of the class exists
-//   wintool read-link FILE.lnk                   prints the shortcut's target, arguments, folder
-//   wintool add-root-cert FILE.der               trusts a certificate for HTTPS (machine ROOT)
-//   wintool window TITLE                         exit 0 when a top-level window can be created
-//   wintool send-first CLASS MSG WPARAM LPARAM TIMEOUT_MS
-//                                               waits for the window, sends at once; prints
+//   wintool send-first CLASS MSG WPARAM LPARAM MS  waits for the window, sends at once; prints
 //                                               "result=N" and "after_found_ms=N"
+//   wintool post CLASS MSG WPARAM LPARAM        PostMessageW
+//   wintool read-link FILE.lnk                  prints the shortcut's target, arguments, folder
+//   wintool add-root-cert FILE.der              trusts a certificate for HTTPS (machine ROOT)
+//   wintool window TITLE                        exit 0 when a top-level window can be created
 #include <windows.h>
 #include <wincrypt.h>
 #include <objbase.h>
@@ -18,6 +16,9 @@
 
 #include <cstdio>
 #include <cwchar>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include "setup/quote_argument.h"
@@ -32,10 +33,8 @@ int Run(int argc, wchar_t** argv) {
   if (argc < 4) return 2;
   const DWORD timeout = static_cast<DWORD>(Number(argv[2]));
   std::wstring command_line;
-  for (int i = 3; i < argc; ++i) {
-    if (i > 3) command_line += L' ';
-    command_line += QuoteArgument(argv[i]);
-  }
+  for (int i = 3; i < argc; ++i)
+    command_line += (i > 3 ? L" " : L"") + QuoteArgument(argv[i]);
   STARTUPINFOW startup = {};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process = {};
@@ -54,59 +53,65 @@ int Run(int argc, wchar_t** argv) {
     return 1;
   }
   CloseHandle(process.hThread);
-  if (WaitForSingleObject(process.hProcess, timeout) == WAIT_TIMEOUT) {
-    TerminateProcess(process.hProcess, 1);
-    CloseHandle(process.hProcess);
-    std::wprintf(L"timeout\n");
-    return 1;
-  }
   DWORD code = 0;
-  GetExitCodeProcess(process.hProcess, &code);
+  const bool finished = WaitForSingleObject(process.hProcess, timeout) != WAIT_TIMEOUT;
+  if (finished)
+    GetExitCodeProcess(process.hProcess, &code);
+  else
+    TerminateProcess(process.hProcess, 1);
   CloseHandle(process.hProcess);
-  std::wprintf(L"exit=%lu\n", code);
-  return 0;
+  std::wprintf(finished ? L"exit=%lu\n" : L"timeout\n", code);
+  return finished ? 0 : 1;
+}
+
+// The window of the class, or null after saying "absent".
+HWND FindOrSay(const wchar_t* window_class) {
+  HWND window = FindWindowW(window_class, nullptr);
+  if (!window) std::wprintf(L"absent\n");
+  return window;
 }
 
 int Find(const wchar_t* window_class) {
-  HWND window = FindWindowW(window_class, nullptr);
-  if (!window) {
-    std::wprintf(L"absent\n");
-    return 1;
-  }
+  HWND window = FindOrSay(window_class);
+  if (!window) return 1;
   wchar_t title[256] = {};
   GetWindowTextW(window, title, 256);
   RECT rect = {};
   GetWindowRect(window, &rect);
-  const LONG_PTR style = GetWindowLongPtrW(window, GWL_STYLE);
-  const LONG_PTR ex_style = GetWindowLongPtrW(window, GWL_EXSTYLE);
-  const bool top_level = GetAncestor(window, GA_PARENT) == GetDesktopWindow();
   std::wprintf(
       L"title=%ls\nvisible=%d\ntop_level=%d\nowner=%d\nstyle=0x%08llx\n"
       L"ex_style=0x%08llx\nsize=%ldx%ld\n",
-      title, IsWindowVisible(window) ? 1 : 0, top_level ? 1 : 0,
-      GetWindow(window, GW_OWNER) ? 1 : 0, static_cast<unsigned long long>(style),
-      static_cast<unsigned long long>(ex_style), rect.right - rect.left, rect.bottom - rect.top);
+      title, IsWindowVisible(window) ? 1 : 0,
+      GetAncestor(window, GA_PARENT) == GetDesktopWindow() ? 1 : 0,
+      GetWindow(window, GW_OWNER) ? 1 : 0,
+      static_cast<unsigned long long>(GetWindowLongPtrW(window, GWL_STYLE)),
+      static_cast<unsigned long long>(GetWindowLongPtrW(window, GWL_EXSTYLE)),
+      rect.right - rect.left, rect.bottom - rect.top);
   return 0;
 }
 
-int Send(int argc, wchar_t** argv, bool post) {
-  if (argc < 6) return 2;
-  HWND window = FindWindowW(argv[2], nullptr);
-  if (!window) {
-    std::wprintf(L"absent\n");
-    return 1;
-  }
+// send-first waits for the window and sends at once, for what happens in its first moments.
+int Send(int argc, wchar_t** argv, const std::wstring& verb) {
+  if (argc < 6 || (verb == L"send-first" && argc < 7)) return 2;
+  const bool first = verb == L"send-first";
+  const ULONGLONG end = GetTickCount64() + (first ? Number(argv[6]) : 0);
+  while (first && !FindWindowW(argv[2], nullptr) && GetTickCount64() <= end)
+    Sleep(1);
+  HWND window = FindOrSay(argv[2]);
+  if (!window) return 1;
+  const ULONGLONG found = GetTickCount64();
   const UINT message = static_cast<UINT>(Number(argv[3]));
   const WPARAM w_param = static_cast<WPARAM>(Number(argv[4]));
   const LPARAM l_param = static_cast<LPARAM>(Number(argv[5]));
-  if (post) return PostMessageW(window, message, w_param, l_param) ? 0 : 1;
-  const UINT timeout = argc > 6 ? static_cast<UINT>(Number(argv[6])) : 5000;
+  if (verb == L"post") return PostMessageW(window, message, w_param, l_param) ? 0 : 1;
+  const UINT timeout = !first && argc > 6 ? static_cast<UINT>(Number(argv[6])) : 5000;
   DWORD_PTR result = 0;
   if (!SendMessageTimeoutW(window, message, w_param, l_param, SMTO_ABORTIFHUNG, timeout, &result)) {
     std::wprintf(L"send-failed=%lu\n", GetLastError());
     return 1;
   }
   std::wprintf(L"result=%llu\n", static_cast<unsigned long long>(result));
+  if (first) std::wprintf(L"after_found_ms=%llu\n", GetTickCount64() - found);
   return 0;
 }
 
@@ -119,15 +124,11 @@ int ReadLink(const wchar_t* path) {
                                  reinterpret_cast<void**>(&link))) &&
       SUCCEEDED(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file))) &&
       SUCCEEDED(file->Load(path, STGM_READ))) {
-    wchar_t text[MAX_PATH] = {};
-    link->GetPath(text, MAX_PATH, nullptr, SLGP_RAWPATH);
-    std::wprintf(L"target=%ls\n", text);
-    text[0] = 0;
-    link->GetArguments(text, MAX_PATH);
-    std::wprintf(L"arguments=%ls\n", text);
-    text[0] = 0;
-    link->GetWorkingDirectory(text, MAX_PATH);
-    std::wprintf(L"folder=%ls\n", text);
+    wchar_t target[MAX_PATH] = {}, arguments[MAX_PATH] = {}, folder[MAX_PATH] = {};
+    link->GetPath(target, MAX_PATH, nullptr, SLGP_RAWPATH);
+    link->GetArguments(arguments, MAX_PATH);
+    link->GetWorkingDirectory(folder, MAX_PATH);
+    std::wprintf(L"target=%ls\narguments=%ls\nfolder=%ls\n", target, arguments, folder);
     result = 0;
   }
   if (file) file->Release();
@@ -137,52 +138,12 @@ int ReadLink(const wchar_t* path) {
 }
 
 int AddRootCertificate(const wchar_t* path) {
-  FILE* file = _wfopen(path, L"rb");
-  if (!file) return 1;
-  std::string der;
-  char buffer[4096];
-  size_t read;
-  while ((read = std::fread(buffer, 1, sizeof(buffer), file)) > 0)
-    der.append(buffer, read);
-  std::fclose(file);
+  std::ifstream file(std::filesystem::path(path), std::ios::binary);
+  const std::string der((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
   const BOOL ok = CertAddEncodedCertificateToSystemStoreW(
       L"ROOT", reinterpret_cast<const BYTE*>(der.data()), static_cast<DWORD>(der.size()));
   std::wprintf(ok ? L"added\n" : L"failed=%lu\n", GetLastError());
   return ok ? 0 : 1;
-}
-
-// Sends as soon as the window exists, for what happens in its first moments.
-int SendFirst(int argc, wchar_t** argv) {
-  if (argc < 7) return 2;
-  const ULONGLONG end = GetTickCount64() + Number(argv[6]);
-  HWND window = nullptr;
-  while (!(window = FindWindowW(argv[2], nullptr))) {
-    if (GetTickCount64() > end) {
-      std::wprintf(L"absent\n");
-      return 1;
-    }
-    Sleep(1);
-  }
-  const ULONGLONG found = GetTickCount64();
-  DWORD_PTR result = 0;
-  if (!SendMessageTimeoutW(window, static_cast<UINT>(Number(argv[3])),
-                           static_cast<WPARAM>(Number(argv[4])),
-                           static_cast<LPARAM>(Number(argv[5])), SMTO_ABORTIFHUNG, 5000, &result)) {
-    std::wprintf(L"send-failed=%lu\n", GetLastError());
-    return 1;
-  }
-  std::wprintf(L"result=%llu\nafter_found_ms=%llu\n", static_cast<unsigned long long>(result),
-               GetTickCount64() - found);
-  return 0;
-}
-
-int WaitGone(const wchar_t* window_class, DWORD timeout) {
-  const ULONGLONG end = GetTickCount64() + timeout;
-  while (FindWindowW(window_class, nullptr)) {
-    if (GetTickCount64() > end) return 1;
-    Sleep(50);
-  }
-  return 0;
 }
 
 // Creating a window needs the display driver and the desktop; the harness checks both this way
@@ -200,25 +161,11 @@ int ProbeWindow(const wchar_t* title) {
 int wmain(int argc, wchar_t** argv) {
   if (argc < 3) return 2;
   const std::wstring verb = argv[1];
-  int result = 2;
-  if (verb == L"run")
-    result = Run(argc, argv);
-  else if (verb == L"find")
-    result = Find(argv[2]);
-  else if (verb == L"send")
-    result = Send(argc, argv, false);
-  else if (verb == L"post")
-    result = Send(argc, argv, true);
-  else if (verb == L"send-first")
-    result = SendFirst(argc, argv);
-  else if (verb == L"read-link")
-    result = ReadLink(argv[2]);
-  else if (verb == L"add-root-cert")
-    result = AddRootCertificate(argv[2]);
-  else if (verb == L"window")
-    result = ProbeWindow(argv[2]);
-  else if (verb == L"wait-gone" && argc > 3)
-    result = WaitGone(argv[2], Number(argv[3]));
-  std::fflush(stdout);
-  return result;
+  if (verb == L"run") return Run(argc, argv);
+  if (verb == L"find") return Find(argv[2]);
+  if (verb == L"send" || verb == L"post" || verb == L"send-first") return Send(argc, argv, verb);
+  if (verb == L"read-link") return ReadLink(argv[2]);
+  if (verb == L"add-root-cert") return AddRootCertificate(argv[2]);
+  if (verb == L"window") return ProbeWindow(argv[2]);
+  return 2;
 }
