@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <type_traits>
+#include <typeinfo>
 
 #include "tessel/skin/style_record.h"
 
@@ -49,18 +50,23 @@ TEST(StyleSheet, BasesAndPrecedence) {
   EXPECT_EQ(variant.text, primary.text);
 }
 
-// Accent buttons take `button.primary`; a glass panel frosts over paper.
+// Accent buttons take `button.primary`; a glass panel frosts over paper; an unset metric of the
+// shapes block keeps the builder's.
 TEST(StyleSheet, ShapeRolesAndMaterialSlots) {
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
            L"\"gloss\",\"strength\":120},\"shapes\":{\"button\":{\"primary\":\"pill\"},"
-           L"\"table\":{\"header\":\"bevel\"},\"scrollbar\":{\"thumbThickness\":7}}"));
+           L"\"table\":{\"header\":\"bevel\"},\"scrollbar\":{\"thumbThickness\":7,"
+           L"\"showButtons\":true}}"));
+  const ButtonStyle& plain = sheet.buttons.get(L"default");
   EXPECT_EQ(sheet.buttons.get(L"primary").surface.pressed.shape, ShapeKind::Capsule);
   EXPECT_EQ(sheet.buttons.get(L"danger").surface.pressed.shape, ShapeKind::Capsule);
-  EXPECT_NE(sheet.buttons.get(L"default").surface.pressed.shape, ShapeKind::Capsule);
+  EXPECT_NE(plain.surface.pressed.shape, ShapeKind::Capsule);
+  EXPECT_FALSE(sheet.buttons.get(L"primary").hitShape.present);
   EXPECT_EQ(sheet.tableLists.get(L"default").header.shape, ShapeKind::Bevel);
   EXPECT_NE(sheet.tableLists.get(L"default").row.shape, ShapeKind::Bevel);
-  EXPECT_EQ(sheet.selectBoxes.get(L"default").scrollBar.thumbThickness, 7);
+  const ScrollBarStyle& bar = sheet.selectBoxes.get(L"default").scrollBar;
+  EXPECT_TRUE(bar.thumbThickness == 7 && bar.showButtons && bar.buttonExtent > 0);
   EXPECT_EQ(sheet.checkBoxes.get(L"default").unchecked.pressed.material, MaterialKind::Rubber);
   EXPECT_EQ(sheet.checkBoxes.get(L"default").checked.pressed.material, MaterialKind::Gloss);
   EXPECT_EQ(sheet.popups.get(L"default").primaryAction.surface.hot.material, MaterialKind::Gloss);
@@ -99,88 +105,53 @@ TEST(StyleSheet, TypesIdsWindowAndAliases) {
     EXPECT_TRUE(sheet.buttons.contains(id)) << id;
 }
 
+#define STATES(map, member) \
+  [](const StyleSheet& s) -> const ControlStates& { return s.map.get(L"x").member; }
+
 // Skins key each state of these controls apart; every spelling lands on its own state alone.
 TEST(StyleSheet, StateKeysLandOnTheirStateAlone) {
-  struct Case {
-    const wchar_t* type;
-    const wchar_t* key;
+  using CS = ControlStates;
+  const struct {
+    const wchar_t *type, *key;
     const ControlStates& (*states)(const StyleSheet&);
     SurfaceStyle ControlStates::*state;
+  } kCases[] = {
+      {L"checkbox", L"boxUncheckedHot", STATES(checkBoxes, unchecked), &CS::hot},
+      {L"checkbox", L"box_checked_disabled", STATES(checkBoxes, checked), &CS::disabled},
+      {L"selectbox", L"pressedSurface", STATES(selectBoxes, surface), &CS::pressed},
+      {L"combo", L"arrowPressedSurface", STATES(selectBoxes, arrowSurface), &CS::pressed},
+      {L"selectbox", L"optionSelectedSurface", STATES(selectBoxes, optionSurface), &CS::active},
+      {L"textinput", L"focusedSurface", STATES(textInputs, surface), &CS::active},
+      {L"dateinput", L"daySelectedSurface", STATES(dateInputs, daySurface), &CS::active},
+      {L"menubar", L"itemActiveSurface", STATES(menuBars, itemSurface), &CS::active},
+      {L"menu", L"popupItemPressedSurface", STATES(menuBars, popupItemSurface), &CS::pressed},
+      {L"listbox", L"selectedRowHot", STATES(listBoxes, selectedRow), &CS::hot},
   };
-  const Case kCases[] = {
-      {L"checkbox", L"boxUncheckedHot",
-       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").unchecked; },
-       &ControlStates::hot},
-      {L"checkbox", L"box_checked_disabled",
-       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").checked; },
-       &ControlStates::disabled},
-      {L"selectbox", L"pressedSurface",
-       [](const StyleSheet& s) -> const ControlStates& { return s.selectBoxes.get(L"x").surface; },
-       &ControlStates::pressed},
-      {L"combo", L"arrowPressedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.selectBoxes.get(L"x").arrowSurface;
-       },
-       &ControlStates::pressed},
-      {L"selectbox", L"optionSelectedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.selectBoxes.get(L"x").optionSurface;
-       },
-       &ControlStates::active},
-      {L"textinput", L"focusedSurface",
-       [](const StyleSheet& s) -> const ControlStates& { return s.textInputs.get(L"x").surface; },
-       &ControlStates::active},
-      {L"dateinput", L"daySelectedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.dateInputs.get(L"x").daySurface;
-       },
-       &ControlStates::active},
-      {L"menubar", L"itemActiveSurface",
-       [](const StyleSheet& s) -> const ControlStates& { return s.menuBars.get(L"x").itemSurface; },
-       &ControlStates::active},
-      {L"menu", L"popupItemPressedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.menuBars.get(L"x").popupItemSurface;
-       },
-       &ControlStates::pressed},
-      {L"listbox", L"selectedRowHot",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.listBoxes.get(L"x").selectedRow;
-       },
-       &ControlStates::hot},
-  };
-  const Color kGiven = rgbColor(0x0A, 0x0B, 0x0C);
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     const std::wstring type = c.type, key = c.key;
     SCOPED_TRACE(std::string(key.begin(), key.end()));
     const StyleSheet sheet(
         Skin(L",\"styles\":{\"" + type + L"\":{\"x\":{\"" + key + L"\":{\"fill\":\"#0A0B0C\"}}}}"));
     const ControlStates& states = c.states(sheet);
-    for (SurfaceStyle ControlStates::*state :
-         {&ControlStates::normal, &ControlStates::hot, &ControlStates::pressed,
-          &ControlStates::disabled, &ControlStates::active}) {
-      EXPECT_EQ((states.*state).fill == kGiven, state == c.state);
-    }
+    for (auto state : {&CS::normal, &CS::hot, &CS::pressed, &CS::disabled, &CS::active})
+      EXPECT_EQ((states.*state).fill == rgbColor(0x0A, 0x0B, 0x0C), state == c.state);
   }
 }
 
 // Hovering strengthens a control's material, pressing and disabling weaken it; a surface on the
-// skin's surface slot never shines above the skin's own strength.
-void ExpectStatesOrdered(const ControlStates& states, const std::string& what) {
-  const SurfaceStyle* const order[] = {&states.hot, &states.normal, &states.pressed,
-                                       &states.disabled};
+// skin's surface slot never shines above the skin's own strength (120).
+void ExpectStatesOrdered(const ControlStates& s, const std::string& what) {
+  const SurfaceStyle* const order[] = {&s.hot, &s.normal, &s.pressed, &s.disabled};
   for (size_t i = 0; i < std::size(order); ++i) {
     for (size_t j = i + 1; j < std::size(order); ++j) {
-      if (order[i]->material == MaterialKind::None || order[j]->material == MaterialKind::None)
-        continue;
-      EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength)
-          << what << " states " << i << " and " << j;
+      if (order[i]->material != MaterialKind::None && order[j]->material != MaterialKind::None)
+        EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength) << what << i << j;
     }
   }
 }
 
 template <typename Record>
-void ExpectMaterialOrder(Record record, const std::string& what, int32_t strength) {
+void ExpectMaterialOrder(Record record, const std::string& what) {
   std::set<const ControlStates*> seen;  // several rows may name states of one set
   for (const StyleField<Record>& field : StyleFields<Record>::rows) {
     if (const auto* state = std::get_if<StateOf<Record>>(&field.target)) {
@@ -193,11 +164,10 @@ void ExpectMaterialOrder(Record record, const std::string& what, int32_t strengt
       if constexpr (std::is_same_v<Value, ControlStates>) {
         ExpectStatesOrdered(value, what);
       } else if constexpr (StyleRecord<Value>) {
-        ExpectMaterialOrder(value, what + " nested", strength);
+        ExpectMaterialOrder(value, what + " nested");
       } else if constexpr (std::is_same_v<Value, SurfaceStyle>) {
-        if (field.material.slot == &MaterialProfile::surface) {
-          EXPECT_LE(value.materialStrength, strength) << what;
-        }
+        if (field.material.slot == &MaterialProfile::surface)
+          EXPECT_LE(value.materialStrength, 120) << what;
       }
     });
   }
@@ -207,29 +177,19 @@ TEST(StyleSheet, MaterialStrengthFollowsTheStates) {
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
            L"\"gloss\",\"strength\":120}"));
-  const auto each = [](const auto& map, const char* kind) {
-    for (const auto& [id, record] : map.all())
-      ExpectMaterialOrder(record, kind + std::string(" ") + std::string(id.begin(), id.end()), 120);
+  const auto each = [&](auto... maps) {
+    const auto one = [](const auto& map) {
+      for (const auto& [id, record] : map.all())
+        ExpectMaterialOrder(record, typeid(record).name() + std::string(id.begin(), id.end()));
+    };
+    (one(sheet.*maps), ...);
   };
-  each(sheet.buttons, "button");
-  each(sheet.cards, "card");
-  each(sheet.chromeTitleBars, "chrome");
-  each(sheet.statusChips, "chip");
-  each(sheet.progressBars, "progress");
-  each(sheet.scrollBars, "scroll");
-  each(sheet.checkBoxes, "check");
-  each(sheet.selectBoxes, "select");
-  each(sheet.listBoxes, "list");
-  each(sheet.dateInputs, "date");
-  each(sheet.tabStrips, "tabs");
-  each(sheet.menuBars, "menu");
-  each(sheet.tableLists, "table");
-  each(sheet.richTexts, "rich");
-  each(sheet.textInputs, "input");
-  each(sheet.selectableTexts, "selectable");
-  each(sheet.popups, "popup");
-  each(sheet.tooltips, "tooltip");
-  ExpectMaterialOrder(sheet.window(), "window", 120);
+  using S = StyleSheet;
+  each(&S::buttons, &S::cards, &S::chromeTitleBars, &S::statusChips, &S::progressBars,
+       &S::scrollBars, &S::checkBoxes, &S::selectBoxes, &S::listBoxes, &S::dateInputs,
+       &S::tabStrips, &S::menuBars, &S::tableLists, &S::richTexts, &S::textInputs,
+       &S::selectableTexts, &S::popups, &S::tooltips);
+  ExpectMaterialOrder(sheet.window(), "window");
 }
 
 }  // namespace
