@@ -21,13 +21,22 @@ SkinDefinition Skin(const std::wstring& members) {
 }
 
 // A base is seen only when it sorts earlier; variants beat styles, the material, then shapes.
-TEST(StyleSheet, BasesAndPrecedence) {
+// A window reads only its "default" override; aliases copy action styles the skin lacks.
+TEST(StyleSheet, BasesPrecedenceTypesAndAliases) {
   const StyleSheet bases(
       Skin(L",\"styles\":{\"button\":{\"b\":{\"base\":\"a\"},\"a\":{\"base\":\"c\",\"surface\":{"
-           L"\"fill\":\"#123456\"}},\"c\":{\"surface\":{\"border\":\"#654321\"}}}}"));
+           L"\"fill\":\"#123456\"}},\"c\":{\"surface\":{\"border\":\"#654321\"}},\"success\":{"
+           L"\"surface\":{\"fill\":\"#040506\"}}},\"tree_list\":{\"x\":{\"rowHeight\":40}},"
+           L"\"gizmo\":{\"x\":{\"a\":1}},\"window\":{\"primary\":{\"resizeBorderThickness\":20}},"
+           L"\"windowstyle\":{\"default\":{\"surface\":{\"fill\":\"#332211\"}}}}"));
   EXPECT_EQ(bases.buttons.get(L"b").surface.normal.fill, rgbColor(0x12, 0x34, 0x56));
   EXPECT_EQ(bases.buttons.get(L"a").surface.normal.border,
             bases.buttons.get(L"default").surface.normal.border);
+  EXPECT_TRUE(bases.listBoxes.get(L"x").rowHeight == 40 && !bases.tooltips.contains(L"x"));
+  EXPECT_EQ(bases.window().resizeBorderThickness, WindowStyle().resizeBorderThickness);
+  EXPECT_EQ(bases.window().surface.fill, rgbColor(0x33, 0x22, 0x11));
+  EXPECT_EQ(&bases.buttons.get(L"Primary_Action"), &bases.buttons.get(L"primary-action"));
+  EXPECT_EQ(bases.buttons.get(L"success-action").surface.normal.fill, rgbColor(4, 5, 6));
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"glass\",\"strength\":100},\"shapes\":{\"panel\":"
            L"\"octagon\"},\"styles\":{\"panel\":{\"default\":{\"shape\":\"hexagon\",\"surface\":{"
@@ -35,74 +44,17 @@ TEST(StyleSheet, BasesAndPrecedence) {
            L"\"fill\":\"#0A0B0C\"}}}},\"variants\":{\"panel\":{\"default\":{\"surface\":{\"fill\":"
            L"\"#020202\"}}},\"button\":{\"stayhold-primary\":{\"base\":\"primary\",\"shape\":"
            L"\"capsule\"}}}"));
-  const PanelStyle& panel = sheet.panels.get(L"default");
-  EXPECT_EQ(panel.surface.shape, ShapeKind::Hexagon);
-  EXPECT_EQ(panel.surface.materialStrength, 5);
-  EXPECT_EQ(panel.surface.fill, rgbColor(2, 2, 2));
-  EXPECT_EQ(sheet.panels.get(L"raised").surface.shape, ShapeKind::Octagon);
-  EXPECT_EQ(sheet.panels.get(L"raised").surface.material, MaterialKind::Glass);
+  const SurfaceStyle& panel = sheet.panels.get(L"default").surface;
+  EXPECT_TRUE(panel.shape == ShapeKind::Hexagon && panel.materialStrength == 5 &&
+              panel.fill == rgbColor(2, 2, 2));
+  const SurfaceStyle& raised = sheet.panels.get(L"raised").surface;
+  EXPECT_TRUE(raised.shape == ShapeKind::Octagon && raised.material == MaterialKind::Glass);
   const ButtonStyle& variant = sheet.buttons.get(L"stayhold-primary");
   const ButtonStyle& primary = sheet.buttons.get(L"primary");
-  EXPECT_EQ(variant.surface.hot.shape, ShapeKind::Capsule);
-  EXPECT_NE(primary.surface.hot.shape, ShapeKind::Capsule);
+  EXPECT_TRUE(variant.surface.hot.shape == ShapeKind::Capsule &&
+              primary.surface.hot.shape != ShapeKind::Capsule);
   EXPECT_EQ(variant.surface.normal.fill, rgbColor(0x0A, 0x0B, 0x0C));
-  EXPECT_EQ(variant.surface.hot.fill, primary.surface.hot.fill);
-  EXPECT_EQ(variant.text, primary.text);
-}
-
-// Accent buttons take `button.primary`; a glass panel frosts over paper; an unset metric of the
-// shapes block keeps the builder's.
-TEST(StyleSheet, ShapeRolesAndMaterialSlots) {
-  const StyleSheet sheet(
-      Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
-           L"\"gloss\",\"strength\":120},\"shapes\":{\"button\":{\"primary\":\"pill\"},"
-           L"\"table\":{\"header\":\"bevel\"},\"scrollbar\":{\"thumbThickness\":7,"
-           L"\"showButtons\":true}}"));
-  const ButtonStyle& plain = sheet.buttons.get(L"default");
-  EXPECT_EQ(sheet.buttons.get(L"primary").surface.pressed.shape, ShapeKind::Capsule);
-  EXPECT_EQ(sheet.buttons.get(L"danger").surface.pressed.shape, ShapeKind::Capsule);
-  EXPECT_NE(plain.surface.pressed.shape, ShapeKind::Capsule);
-  EXPECT_FALSE(sheet.buttons.get(L"primary").hitShape.present);
-  EXPECT_EQ(sheet.tableLists.get(L"default").header.shape, ShapeKind::Bevel);
-  EXPECT_NE(sheet.tableLists.get(L"default").row.shape, ShapeKind::Bevel);
-  const ScrollBarStyle& bar = sheet.selectBoxes.get(L"default").scrollBar;
-  EXPECT_TRUE(bar.thumbThickness == 7 && bar.showButtons && bar.buttonExtent > 0);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").unchecked.pressed.material, MaterialKind::Rubber);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").checked.pressed.material, MaterialKind::Gloss);
-  EXPECT_EQ(sheet.popups.get(L"default").primaryAction.surface.hot.material, MaterialKind::Gloss);
-  EXPECT_EQ(sheet.panels.get(L"glass").surface.material, MaterialKind::FrostedGlass);
-  EXPECT_EQ(sheet.panels.get(L"glass").surface.materialStrength, 124);
-  EXPECT_EQ(sheet.panels.get(L"raised").surface.materialStrength, 112);
-  const StyleSheet glass(Skin(L",\"materials\":{\"surface\":\"glass\"}"));
-  EXPECT_EQ(glass.panels.get(L"glass").surface.material, MaterialKind::Glass);
-}
-
-// A window reads only its "default" override; aliases copy action styles the skin lacks.
-TEST(StyleSheet, TypesIdsWindowAndAliases) {
-  const StyleSheet sheet(
-      Skin(L",\"styles\":{\"tree_list\":{\"x\":{\"rowHeight\":40}},\"combo\":{\"x\":{"
-           L"\"itemHeight\":33}},\"list\":{\"x\":{\"rowHeight\":41}},\"Text-Style\":{\"x\":{"
-           L"\"weight\":\"bold\"}},\"gizmo\":{\"x\":{\"a\":1}},\"window\":{\"primary\":{"
-           L"\"resizeBorderThickness\":20}},\"button\":{\"warning-action\":{\"surface\":{\"fill\":"
-           L"\"#010203\"}},\"success\":{\"surface\":{\"fill\":\"#040506\"}}}}"));
-  EXPECT_EQ(sheet.listBoxes.get(L"x").rowHeight, 40);
-  EXPECT_EQ(sheet.selectBoxes.get(L"x").itemHeight, 33);
-  EXPECT_EQ(sheet.tableLists.get(L"x").rowHeight, 41);
-  EXPECT_EQ(sheet.text.get(L"x").weight, 700);
-  EXPECT_FALSE(sheet.tooltips.contains(L"x"));
-  EXPECT_EQ(sheet.window().resizeBorderThickness, WindowStyle().resizeBorderThickness);
-  const StyleSheet byDefault(
-      Skin(L",\"styles\":{\"windowstyle\":{\"default\":{\"resizeBorderThickness\":20,\"surface\":"
-           L"{\"fill\":\"#332211\"}}}}"));
-  EXPECT_EQ(byDefault.window().resizeBorderThickness, 20);
-  EXPECT_EQ(byDefault.window().surface.fill, rgbColor(0x33, 0x22, 0x11));
-
-  EXPECT_EQ(&sheet.cards.get(L"nope"), &sheet.cards.get(L"default"));
-  EXPECT_EQ(&sheet.buttons.get(L"Primary_Action"), &sheet.buttons.get(L"primary-action"));
-  EXPECT_EQ(sheet.buttons.get(L"success-action").surface.normal.fill, rgbColor(4, 5, 6));
-  EXPECT_EQ(sheet.buttons.get(L"warning-action").surface.normal.fill, rgbColor(1, 2, 3));
-  for (const wchar_t* id : {L"danger-action", L"action", L"designed-help"})
-    EXPECT_TRUE(sheet.buttons.contains(id)) << id;
+  EXPECT_TRUE(variant.surface.hot.fill == primary.surface.hot.fill && variant.text == primary.text);
 }
 
 #define STATES(map, member) \
@@ -144,8 +96,9 @@ void ExpectStatesOrdered(const ControlStates& s, const std::string& what) {
   const SurfaceStyle* const order[] = {&s.hot, &s.normal, &s.pressed, &s.disabled};
   for (size_t i = 0; i < std::size(order); ++i) {
     for (size_t j = i + 1; j < std::size(order); ++j) {
-      if (order[i]->material != MaterialKind::None && order[j]->material != MaterialKind::None)
+      if (order[i]->material != MaterialKind::None && order[j]->material != MaterialKind::None) {
         EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength) << what << i << j;
+      }
     }
   }
 }
@@ -166,17 +119,39 @@ void ExpectMaterialOrder(Record record, const std::string& what) {
       } else if constexpr (StyleRecord<Value>) {
         ExpectMaterialOrder(value, what + " nested");
       } else if constexpr (std::is_same_v<Value, SurfaceStyle>) {
-        if (field.material.slot == &MaterialProfile::surface)
+        if (field.material.slot == &MaterialProfile::surface) {
           EXPECT_LE(value.materialStrength, 120) << what;
+        }
       }
     });
   }
 }
 
-TEST(StyleSheet, MaterialStrengthFollowsTheStates) {
+// Accent buttons take `button.primary`; a glass panel frosts over paper; an unset metric of the
+// shapes block keeps the builder's. Materials follow the states throughout.
+TEST(StyleSheet, ShapeRolesMaterialSlotsAndMaterialStrengthFollowsTheStates) {
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
-           L"\"gloss\",\"strength\":120}"));
+           L"\"gloss\",\"strength\":120},\"shapes\":{\"button\":{\"primary\":\"pill\"},"
+           L"\"table\":{\"header\":\"bevel\"},\"scrollbar\":{\"thumbThickness\":7,"
+           L"\"showButtons\":true}}"));
+  const auto shape = [&](const wchar_t* id) { return sheet.buttons.get(id).surface.pressed.shape; };
+  EXPECT_TRUE(shape(L"primary") == ShapeKind::Capsule && shape(L"danger") == ShapeKind::Capsule &&
+              shape(L"default") != ShapeKind::Capsule);
+  EXPECT_FALSE(sheet.buttons.get(L"primary").hitShape.present);
+  const TableListStyle& table = sheet.tableLists.get(L"default");
+  EXPECT_TRUE(table.header.shape == ShapeKind::Bevel && table.row.shape != ShapeKind::Bevel);
+  const ScrollBarStyle& bar = sheet.selectBoxes.get(L"default").scrollBar;
+  EXPECT_TRUE(bar.thumbThickness == 7 && bar.showButtons && bar.buttonExtent > 0);
+  const CheckBoxStyle& box = sheet.checkBoxes.get(L"default");
+  EXPECT_EQ(box.unchecked.pressed.material, MaterialKind::Rubber);
+  EXPECT_EQ(box.checked.pressed.material, MaterialKind::Gloss);
+  EXPECT_EQ(sheet.popups.get(L"default").primaryAction.surface.hot.material, MaterialKind::Gloss);
+  const SurfaceStyle& glassy = sheet.panels.get(L"glass").surface;
+  EXPECT_TRUE(glassy.material == MaterialKind::FrostedGlass && glassy.materialStrength == 124);
+  EXPECT_EQ(sheet.panels.get(L"raised").surface.materialStrength, 112);
+  const StyleSheet glass(Skin(L",\"materials\":{\"surface\":\"glass\"}"));
+  EXPECT_EQ(glass.panels.get(L"glass").surface.material, MaterialKind::Glass);
   const auto each = [&](auto... maps) {
     const auto one = [](const auto& map) {
       for (const auto& [id, record] : map.all())
