@@ -115,6 +115,7 @@ TEST(ApplyFinish, EachFinishOnlyClampsItsValues) {
 // nothing.
 TEST(ApplyMaterial, TheProfileClampsAndADisabledOneChangesNothing) {
   MaterialProfile profile;
+  profile.enabled = true;
   profile.strength = 250;
   profile.specular = 900;
   profile.roughness = -4;
