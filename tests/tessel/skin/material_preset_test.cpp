@@ -106,9 +106,13 @@ TEST(ApplyFinish, EachFinishOnlyClampsItsValues) {
   }
   // From a new surface: roughness 96, specular 96, highlight 70, reflection 38, texture 48,
   // grain 0, depth 0, occlusion 58, edge wear 26.
-  SurfaceStyle cracked;
-  applyFinish(cracked, Finish::Cracked);
-  EXPECT_EQ(Values(cracked, 9), (std::vector<int64_t>{142, 96, 70, 38, 108, 0, 70, 104, 42}));
+  for (const auto& [finish, expected] :
+       {std::pair{Finish::Cracked, std::vector<int64_t>{142, 96, 70, 38, 108, 0, 70, 104, 42}},
+        std::pair{Finish::Brushed, std::vector<int64_t>{104, 118, 70, 38, 72, 8, 0, 58, 26}}}) {
+    SurfaceStyle surface;
+    applyFinish(surface, finish);
+    EXPECT_EQ(Values(surface, 9), expected) << finish;
+  }
 }
 
 // The profile clamps to bytes and moves only the strength by the delta; a disabled one changes
