@@ -22,29 +22,24 @@ int main(int argc, char** argv) {
     std::printf("usage: skin_contact_sheet OUTPUT.png [SKINS_FOLDER [FIRST COUNT]]\n");
     return argc < 2 ? 2 : 0;
   }
-  const std::filesystem::path folder =
-      argc > 2 ? std::filesystem::path(argv[2]) : SourceFile("skins");
+  const std::filesystem::path folder = argc > 2 ? argv[2] : SourceFile("skins");
   std::vector<SkinDefinition> skins = loadSkinFolder(folder.wstring());
   if (argc > 4) {
-    const size_t first = std::min(skins.size(), static_cast<size_t>(std::atoi(argv[3])));
-    const size_t count = std::min(skins.size() - first, static_cast<size_t>(std::atoi(argv[4])));
+    const size_t first = std::min(skins.size(), size_t(std::atoi(argv[3])));
+    const size_t count = std::min(skins.size() - first, size_t(std::atoi(argv[4])));
     skins = std::vector<SkinDefinition>(skins.begin() + first, skins.begin() + first + count);
   }
-  if (skins.empty()) {
-    std::fprintf(stderr, "no skins in %s\n", folder.string().c_str());
-    return 1;
-  }
-  constexpr int kLabel = 180, kGalleryWidth = 320, kGalleryHeight = 200, kRowHeight = 204;
-  Image sheet = Image::blank(kLabel + kGalleryWidth, int(skins.size()) * kRowHeight);
+  if (skins.empty()) return std::fprintf(stderr, "no skins in %s\n", folder.string().c_str()), 1;
+  // A 180 pixel label, then the 320x200 gallery; rows 204 pixels apart.
+  Image sheet = Image::blank(180 + 320, int(skins.size()) * 204);
   const char* modes[] = {"FLAT", "SCULPTED", "TEXTURED", "PLATES", "CLEAN"};
   for (size_t i = 0; i < skins.size(); ++i) {
-    const SkinDefinition& skin = skins[i];
-    const Theme& t = skin.theme;
-    const int top = int(i) * kRowHeight;
-    fillShape(sheet, Rect{0, top, kLabel, kGalleryHeight}, ShapeKind::Rectangle, t.shell);
-    DrawBitmapText(sheet, 8, top + 8, Utf8FromWide(skin.id), t.textHot, 1);
-    DrawBitmapText(sheet, 8, top + 20, modes[static_cast<int>(skin.surfaceMode)], t.mutedText, 1);
-    if (skin.materials.enabled) DrawBitmapText(sheet, 70, top + 20, "MATERIAL", t.mutedText, 1);
+    const Theme& t = skins[i].theme;
+    const int top = int(i) * 204;
+    fillShape(sheet, Rect{0, top, 180, 200}, ShapeKind::Rectangle, t.shell);
+    DrawBitmapText(sheet, 8, top + 8, Utf8FromWide(skins[i].id), t.textHot, 1);
+    DrawBitmapText(sheet, 8, top + 20, modes[int(skins[i].surfaceMode)], t.mutedText, 1);
+    if (skins[i].materials.enabled) DrawBitmapText(sheet, 70, top + 20, "MATERIAL", t.mutedText, 1);
     const Color roles[] = {t.frame,     t.shell,        t.panel,          t.header,
                            t.control,   t.controlHot,   t.controlPressed, t.border,
                            t.accent,    t.accentHot,    t.text,           t.textHot,
@@ -54,14 +49,11 @@ int main(int argc, char** argv) {
       fillShape(sheet, swatch, ShapeKind::Rectangle, roles[r]);
       strokeShape(sheet, swatch, ShapeKind::Rectangle, rgbColor(128, 128, 128), 1);
     }
-    const Image gallery = DrawSkinGallery(skin);
+    const Image gallery = DrawSkinGallery(skins[i]);
     for (int y = 0; y < gallery.height; ++y)
-      std::memcpy(sheet.pixel(kLabel, top + y), gallery.pixel(0, y), size_t(gallery.width) * 4);
+      std::memcpy(sheet.pixel(180, top + y), gallery.pixel(0, y), size_t(gallery.width) * 4);
   }
-  if (!WritePngImage(argv[1], sheet)) {
-    std::fprintf(stderr, "cannot write %s\n", argv[1]);
-    return 1;
-  }
+  if (!WritePngImage(argv[1], sheet)) return std::fprintf(stderr, "cannot write %s\n", argv[1]), 1;
   std::printf("%zu skins drawn into %s\n", skins.size(), argv[1]);
   return 0;
 }

@@ -2,22 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <random>
-
 namespace tessel {
 namespace {
 
 // A failure anywhere refuses the whole document and leaves the output alone.
 TEST(JsonParse, RefusesMalformedDocuments) {
-  for (const wchar_t* text : {L"",           L" \t\r\n",       L"{\"a\":1,}",
-                              L"[1,]",       L"{\"a\":1} x",   L"[+1]",
-                              L"[-]",        L"[.]",           L"{\"a\":1 // no\n}",
-                              L"/* x */ {}", L"[\"\\x41\"]",   L"[\"\\u12\"]",
-                              L"\"\\u12",    L"[\"\\u12G4\"]", L"[\"abc",
-                              L"\"abc\\",    L"{a:1}",         L"{\"a\" 1}",
-                              L"[1 2]",      L"{\"a\":1",      L"[1",
-                              L"[trueish]",  L"[tru]",         L"{"}) {
+  for (const wchar_t* text :
+       {L"",          L" \t\r\n",       L"{\"a\":1,}", L"[1,]",       L"{\"a\":1} x",
+        L"[+1]",      L"[-]",           L"[.]",        L"/* x */ {}", L"[\"\\x41\"]",
+        L"\"\\u12",   L"[\"\\u12G4\"]", L"[\"abc",     L"\"abc\\",    L"{a:1}",
+        L"{\"a\" 1}", L"[1 2]",         L"{\"a\":1",   L"[trueish]",  L"[tru]"}) {
     JsonValue value;
     value.number = 7;
     EXPECT_FALSE(parseJsonText(text, value)) << text;
@@ -29,9 +23,7 @@ TEST(JsonParse, RefusesMalformedDocuments) {
 TEST(JsonParse, ReadsNumbersTheWideWay) {
   const std::pair<const wchar_t*, double> kCases[] = {
       {L"\uFEFF[1]", 1}, {L"[1E3]", 1000}, {L"[1e]", 1},        {L"\u3000\f\v[1]\u2003", 1},
-      {L"[1.]", 1},      {L"[-.5]", -0.5}, {L"[-12E-1]", -1.2}, {L"[2.5e2]", 250},
-      {L"[01]", 1},      {L"[1e+]", 1},    {L"[1]  \n", 1},     {L"[0]", 0},
-      {L"[.5]", 0.5}};
+      {L"[1.]", 1},      {L"[01]", 1},     {L"[-12E-1]", -1.2}, {L"[.5]", 0.5}};
   for (const auto& [text, number] : kCases) {
     JsonValue value;
     ASSERT_TRUE(parseJsonText(text, value)) << text;
@@ -53,16 +45,15 @@ TEST(JsonParse, TheOrderOfKeys) {
   const std::wstring pair{wchar_t(0xD83D), wchar_t(0xDE00)}, privateUse(1, wchar_t(0xE000));
   EXPECT_EQ(keys, (std::vector<std::wstring>{L"B", L"a", L"ab", L"b", pair, privateUse}));
   EXPECT_EQ(value.members.at(L"b").number, 7);
+  // Where wchar_t holds whole code points, an astral key still sorts as its surrogate pair.
   const auto astral = [](wchar_t low) {
     return sizeof(wchar_t) == 2 ? std::wstring{wchar_t(0xD83D), low}
                                 : std::wstring(1, wchar_t(0x1F400 + (low - 0xDC00)));
   };
   const Utf16KeyLess less;
-  EXPECT_TRUE(less(astral(0xDE00), astral(0xDE01)));
-  EXPECT_FALSE(less(astral(0xDE01), astral(0xDE00)));
-  EXPECT_TRUE(less(astral(0xDE00), privateUse));
+  EXPECT_TRUE(less(astral(0xDE00), astral(0xDE01)) && !less(astral(0xDE01), astral(0xDE00)));
+  EXPECT_TRUE(less(astral(0xDE00), privateUse) && !less(astral(0xDE00), astral(0xDE00)));
   EXPECT_TRUE(less(std::wstring(1, wchar_t(0xD83D)), astral(0xDE00)));  // a prefix of the pair
-  EXPECT_FALSE(less(astral(0xDE00), astral(0xDE00)));
   EXPECT_TRUE(less(std::wstring(L"\0a", 2), std::wstring(L"\0b", 2)));  // a unit 0 is no end
 }
 
@@ -71,7 +62,6 @@ TEST(JsonParse, StringsKeepCodeUnits) {
   const std::pair<const wchar_t*, std::vector<unsigned>> kCases[] = {
       {L"\"\\ud83d\\ude00\"", {0xD83D, 0xDE00}},
       {L"\"\\ud83d\"", {0xD83D}},
-      {L"\"\\u00E9\"", {0xE9}},
       {L"\"\\\"\\/\\\\\\b\\f\\n\\r\\t\"", {'"', '/', '\\', 8, 12, 10, 13, 9}},
       {L"\"a\tb\r\n\"", {'a', 9, 'b', 13, 10}}};
   for (const auto& [text, expected] : kCases) {
@@ -80,22 +70,6 @@ TEST(JsonParse, StringsKeepCodeUnits) {
     ASSERT_EQ(value.kind, JsonValue::Kind::String) << text;
     EXPECT_EQ(std::vector<unsigned>(value.text.begin(), value.text.end()), expected) << text;
   }
-}
-
-// Strict UTF-8, one leading byte order mark dropped; empty for empty, missing and invalid files.
-TEST(JsonFile, DecodesStrictUtf8) {
-  const std::pair<std::string, std::wstring> kCases[] = {
-      {"[\"\xED\xA0\xBD\"]", L""}, {"{\"a\":\"ok\",\"b\":\"x\xC3y\"}", L""},
-      {"\xEF\xBB\xBF", L""},       {"", L""},
-      {"\xEF\xBB\xBF[1]", L"[1]"}, {"{\"a\":\"\xC3\xA9\"}", L"{\"a\":\"\u00E9\"}"}};
-  const auto path = std::filesystem::temp_directory_path() /
-                    ("stayhold_json_" + std::to_string(std::random_device()()) + ".json");
-  for (const auto& [bytes, text] : kCases) {
-    std::ofstream(path, std::ios::binary) << bytes;
-    EXPECT_EQ(readJsonFileText(path), text) << bytes;
-  }
-  std::filesystem::remove(path);
-  EXPECT_EQ(readJsonFileText(path), L"");
 }
 
 }  // namespace

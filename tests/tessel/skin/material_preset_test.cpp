@@ -20,13 +20,6 @@ constexpr uint8_t SurfaceStyle::*kMovable[] = {
     &SurfaceStyle::materialDepth,    &SurfaceStyle::ambientOcclusion,
     &SurfaceStyle::edgeWear};
 
-SurfaceStyle AllMovedAt(uint8_t value) {
-  SurfaceStyle s;
-  for (uint8_t SurfaceStyle::*field : kMovable)
-    s.*field = value;
-  return s;
-}
-
 // The nine values, then the others a material gives a surface.
 std::vector<int64_t> Values(const SurfaceStyle& s, size_t count = 19) {
   std::vector<int64_t> values;
@@ -44,10 +37,15 @@ SurfaceStyle Applied(const MaterialPreset& preset, SurfaceStyle surface = Surfac
 }
 
 // Names are normalized and unique and find their own row; the seed spells the first four letters
-// of the name, and an alias repeats its original's row and seed.
+// of the name, and an alias repeats its original's row. What a preset carries doesn't depend on
+// the surface it lands on, and nothing else on the surface moves.
 TEST(MaterialPresetTable, Invariants) {
   const std::pair<std::wstring, std::wstring> kAliases[] = {
       {L"zula", L"granite"}, {L"mramor", L"marble"}, {L"aluminum", L"aluminium"}};
+  SurfaceStyle odd;
+  odd.materialStrength = odd.materialLightElevation = odd.innerGlow = odd.specular = 1;
+  odd.materialTint = odd.fill = rgbColor(1, 1, 1);
+  odd.materialScale = odd.materialAngle = odd.finish = odd.noiseSeed = 4;
   ASSERT_GT(materialPresets().size(), 50u);
   for (const MaterialPreset& preset : materialPresets()) {
     SCOPED_TRACE(::testing::PrintToString(preset.name));
@@ -63,21 +61,13 @@ TEST(MaterialPresetTable, Invariants) {
     EXPECT_EQ(prefix, origin.substr(0, 4));
     ASSERT_NE(findMaterialPreset(origin), nullptr);
     EXPECT_EQ(Values(Applied(preset)), Values(Applied(*findMaterialPreset(origin))));
+    const SurfaceStyle surface = Applied(preset, odd);
+    EXPECT_EQ(Values(surface), Values(Applied(preset)));
+    EXPECT_TRUE(surface.materialTint == preset.tint && surface.fill == odd.fill &&
+                surface.innerGlow == 1);
   }
-}
-
-// A preset is found in any spelling; words of no vocabulary (a hyphen makes "aaa-glass" the
-// dead word "aaaglass") are refused and leave the value.
-TEST(MaterialWords, PresetsResolveAndUnknownWordsAreRefused) {
   EXPECT_EQ(findMaterialPreset(L"Stainless-Steel")->name, L"stainlesssteel");
-  for (const wchar_t* word : {L"aaa-glass", L"granites", L""}) {
-    MaterialKind kind = MaterialKind::Rubber;
-    int32_t finish = Finish::Hammered;
-    EXPECT_FALSE(parseMaterialKind(word, kind) || parseFinish(word, finish) ||
-                 findMaterialPreset(word) != nullptr || kind != MaterialKind::Rubber ||
-                 finish != Finish::Hammered)
-        << word;
-  }
+  EXPECT_EQ(findMaterialPreset(L"aaa-glass"), nullptr);  // the dead word "aaaglass"
 }
 
 // A finish only clamps each movable value, once and for all; default and unknown numbers move
@@ -85,12 +75,15 @@ TEST(MaterialWords, PresetsResolveAndUnknownWordsAreRefused) {
 TEST(ApplyFinish, EachFinishOnlyClampsItsValues) {
   for (int32_t finish = Finish::Default - 1; finish <= Finish::Wet + 1; ++finish) {
     SCOPED_TRACE("finish " + std::to_string(finish));
-    SurfaceStyle low = AllMovedAt(0), high = AllMovedAt(255);
+    SurfaceStyle low, high;
+    for (uint8_t SurfaceStyle::*field : kMovable)
+      high.*field = 255, low.*field = 0;
+    const SurfaceStyle zero = low;
     applyFinish(low, finish);
     applyFinish(high, finish);
     EXPECT_EQ(low.finish, finish);
     const bool known = finish > Finish::Default && finish <= Finish::Wet;
-    EXPECT_TRUE(known || Values(low, 9) == Values(AllMovedAt(0), 9));
+    EXPECT_TRUE(known || Values(low, 9) == Values(zero, 9));
     for (uint8_t SurfaceStyle::*field : kMovable) {
       for (int start = 0; start <= 255; ++start) {
         SurfaceStyle surface;
@@ -111,66 +104,29 @@ TEST(ApplyFinish, EachFinishOnlyClampsItsValues) {
                                       : kind);
     }
   }
-}
-
-// Finishes from a new surface (roughness 96, specular 96, highlight 70, reflection 38, texture
-// 48, grain 0, depth 0, occlusion 58, edge wear 26): the later one's caps decide.
-TEST(ApplyFinish, FinishesApplyOneAfterTheOther) {
-  const std::pair<std::vector<int32_t>, std::vector<int64_t>> kCases[] = {
-      {{Finish::Polished, Finish::Matte}, {168, 74, 84, 34, 48, 0, 0, 58, 26}},
-      {{Finish::Matte, Finish::Polished}, {62, 156, 84, 66, 48, 0, 0, 58, 26}},
-      {{Finish::Brushed, Finish::Frosted}, {184, 88, 70, 38, 72, 16, 0, 58, 26}},
-      {{Finish::Cracked}, {142, 96, 70, 38, 108, 0, 70, 104, 42}}};
-  for (const auto& [finishes, expected] : kCases) {
+  // From a new surface: roughness 96, specular 96, highlight 70, reflection 38, texture 48,
+  // grain 0, depth 0, occlusion 58, edge wear 26.
+  for (const auto& [finish, expected] :
+       {std::pair{Finish::Cracked, std::vector<int64_t>{142, 96, 70, 38, 108, 0, 70, 104, 42}},
+        std::pair{Finish::Brushed, std::vector<int64_t>{104, 118, 70, 38, 72, 8, 0, 58, 26}}}) {
     SurfaceStyle surface;
-    for (int32_t finish : finishes)
-      applyFinish(surface, finish);
-    EXPECT_EQ(Values(surface, 9), expected) << ::testing::PrintToString(finishes);
+    applyFinish(surface, finish);
+    EXPECT_EQ(Values(surface, 9), expected) << finish;
   }
 }
 
-// What a preset carries doesn't depend on the surface it lands on; a kind None keeps strength.
-TEST(ApplyMaterialPreset, EveryPresetReplacesItsValuesAndNothingElse) {
-  SurfaceStyle odd = AllMovedAt(7);
-  odd.material = MaterialKind::Paper;
-  odd.materialStrength = odd.materialLightElevation = odd.innerGlow = 1;
-  odd.materialTint = odd.backlightColor = odd.fill = rgbColor(1, 1, 1);
-  odd.materialScale = odd.materialAngle = odd.materialLightAngle = odd.finish = 4;
-  odd.noiseSeed = 8;
-  for (const MaterialPreset& p : materialPresets()) {
-    const SurfaceStyle surface = Applied(p, odd);
-    EXPECT_EQ(Values(surface), Values(Applied(p))) << ::testing::PrintToString(p.name);
-    EXPECT_EQ(
-        (std::vector<int64_t>{surface.materialTint, surface.backlightColor, surface.noiseSeed}),
-        (std::vector<int64_t>{p.tint, p.backlight, p.noiseSeed}));
-    EXPECT_TRUE(surface.fill == odd.fill && surface.innerGlow == 1);
-  }
-  MaterialPreset none;
-  none.strength = 200;
-  EXPECT_EQ(Applied(none, odd).materialStrength, 1);
-}
-
-// The profile lands as its preset does, clamps to bytes and moves only the strength by the delta.
-TEST(ApplyMaterial, TheProfileLandsLikeAPresetAndTheDeltaMovesOnlyTheStrength) {
-  JsonValue json;
-  ASSERT_TRUE(parseJsonText(L"{\"surface\": \"granite\"}", json));
+// The profile clamps to bytes and moves only the strength by the delta; a disabled one changes
+// nothing.
+TEST(ApplyMaterial, TheProfileClampsAndADisabledOneChangesNothing) {
   MaterialProfile profile;
-  parseMaterialProfile(json, Theme(), profile);
-  SurfaceStyle byProfile, byPreset = Applied(*findMaterialPreset(L"granite"));
-  applyMaterial(byProfile, profile, MaterialKind::Granite, -30);
-  byPreset.materialStrength = static_cast<uint8_t>(profile.strength - 30);
-  EXPECT_EQ(Values(byProfile), Values(byPreset));
-  EXPECT_TRUE(byProfile.useGradient);
+  profile.enabled = true;
   profile.strength = 250;
   profile.specular = 900;
   profile.roughness = -4;
-  profile.finish = Finish::Default;
-  SurfaceStyle clamped, none, untouched;
+  SurfaceStyle clamped, untouched;
   applyMaterial(clamped, profile, MaterialKind::Glass, 20);
   EXPECT_EQ(Values(clamped, 2), (std::vector<int64_t>{0, 255}));
   EXPECT_EQ(clamped.materialStrength, 255);
-  applyMaterial(none, profile, MaterialKind::None, 20);
-  EXPECT_EQ(none.materialStrength, 0);
   profile.enabled = false;
   applyMaterial(untouched, profile, MaterialKind::Glass, 0);
   EXPECT_EQ(Values(untouched), Values(SurfaceStyle()));

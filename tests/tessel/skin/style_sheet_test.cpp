@@ -5,6 +5,7 @@
 #include <set>
 #include <string>
 #include <type_traits>
+#include <typeinfo>
 
 #include "tessel/skin/style_record.h"
 
@@ -20,13 +21,22 @@ SkinDefinition Skin(const std::wstring& members) {
 }
 
 // A base is seen only when it sorts earlier; variants beat styles, the material, then shapes.
-TEST(StyleSheet, BasesAndPrecedence) {
+// A window reads only its "default" override; aliases copy action styles the skin lacks.
+TEST(StyleSheet, BasesPrecedenceTypesAndAliases) {
   const StyleSheet bases(
       Skin(L",\"styles\":{\"button\":{\"b\":{\"base\":\"a\"},\"a\":{\"base\":\"c\",\"surface\":{"
-           L"\"fill\":\"#123456\"}},\"c\":{\"surface\":{\"border\":\"#654321\"}}}}"));
+           L"\"fill\":\"#123456\"}},\"c\":{\"surface\":{\"border\":\"#654321\"}},\"success\":{"
+           L"\"surface\":{\"fill\":\"#040506\"}}},\"tree_list\":{\"x\":{\"rowHeight\":40}},"
+           L"\"gizmo\":{\"x\":{\"a\":1}},\"window\":{\"primary\":{\"resizeBorderThickness\":20}},"
+           L"\"windowstyle\":{\"default\":{\"surface\":{\"fill\":\"#332211\"}}}}"));
   EXPECT_EQ(bases.buttons.get(L"b").surface.normal.fill, rgbColor(0x12, 0x34, 0x56));
   EXPECT_EQ(bases.buttons.get(L"a").surface.normal.border,
             bases.buttons.get(L"default").surface.normal.border);
+  EXPECT_TRUE(bases.listBoxes.get(L"x").rowHeight == 40 && !bases.tooltips.contains(L"x"));
+  EXPECT_EQ(bases.window().resizeBorderThickness, WindowStyle().resizeBorderThickness);
+  EXPECT_EQ(bases.window().surface.fill, rgbColor(0x33, 0x22, 0x11));
+  EXPECT_EQ(&bases.buttons.get(L"Primary_Action"), &bases.buttons.get(L"primary-action"));
+  EXPECT_EQ(bases.buttons.get(L"success-action").surface.normal.fill, rgbColor(4, 5, 6));
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"glass\",\"strength\":100},\"shapes\":{\"panel\":"
            L"\"octagon\"},\"styles\":{\"panel\":{\"default\":{\"shape\":\"hexagon\",\"surface\":{"
@@ -34,153 +44,67 @@ TEST(StyleSheet, BasesAndPrecedence) {
            L"\"fill\":\"#0A0B0C\"}}}},\"variants\":{\"panel\":{\"default\":{\"surface\":{\"fill\":"
            L"\"#020202\"}}},\"button\":{\"stayhold-primary\":{\"base\":\"primary\",\"shape\":"
            L"\"capsule\"}}}"));
-  const PanelStyle& panel = sheet.panels.get(L"default");
-  EXPECT_EQ(panel.surface.shape, ShapeKind::Hexagon);
-  EXPECT_EQ(panel.surface.materialStrength, 5);
-  EXPECT_EQ(panel.surface.fill, rgbColor(2, 2, 2));
-  EXPECT_EQ(sheet.panels.get(L"raised").surface.shape, ShapeKind::Octagon);
-  EXPECT_EQ(sheet.panels.get(L"raised").surface.material, MaterialKind::Glass);
+  const SurfaceStyle& panel = sheet.panels.get(L"default").surface;
+  EXPECT_TRUE(panel.shape == ShapeKind::Hexagon && panel.materialStrength == 5 &&
+              panel.fill == rgbColor(2, 2, 2));
+  const SurfaceStyle& raised = sheet.panels.get(L"raised").surface;
+  EXPECT_TRUE(raised.shape == ShapeKind::Octagon && raised.material == MaterialKind::Glass);
   const ButtonStyle& variant = sheet.buttons.get(L"stayhold-primary");
   const ButtonStyle& primary = sheet.buttons.get(L"primary");
-  EXPECT_EQ(variant.surface.hot.shape, ShapeKind::Capsule);
-  EXPECT_NE(primary.surface.hot.shape, ShapeKind::Capsule);
+  EXPECT_TRUE(variant.surface.hot.shape == ShapeKind::Capsule &&
+              primary.surface.hot.shape != ShapeKind::Capsule);
   EXPECT_EQ(variant.surface.normal.fill, rgbColor(0x0A, 0x0B, 0x0C));
-  EXPECT_EQ(variant.surface.hot.fill, primary.surface.hot.fill);
-  EXPECT_EQ(variant.text, primary.text);
+  EXPECT_TRUE(variant.surface.hot.fill == primary.surface.hot.fill && variant.text == primary.text);
 }
 
-// Accent buttons take `button.primary`; a glass panel frosts over paper.
-TEST(StyleSheet, ShapeRolesAndMaterialSlots) {
-  const StyleSheet sheet(
-      Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
-           L"\"gloss\",\"strength\":120},\"shapes\":{\"button\":{\"primary\":\"pill\"},"
-           L"\"table\":{\"header\":\"bevel\"},\"scrollbar\":{\"thumbThickness\":7}}"));
-  EXPECT_EQ(sheet.buttons.get(L"primary").surface.pressed.shape, ShapeKind::Capsule);
-  EXPECT_EQ(sheet.buttons.get(L"danger").surface.pressed.shape, ShapeKind::Capsule);
-  EXPECT_NE(sheet.buttons.get(L"default").surface.pressed.shape, ShapeKind::Capsule);
-  EXPECT_EQ(sheet.tableLists.get(L"default").header.shape, ShapeKind::Bevel);
-  EXPECT_NE(sheet.tableLists.get(L"default").row.shape, ShapeKind::Bevel);
-  EXPECT_EQ(sheet.selectBoxes.get(L"default").scrollBar.thumbThickness, 7);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").unchecked.pressed.material, MaterialKind::Rubber);
-  EXPECT_EQ(sheet.checkBoxes.get(L"default").checked.pressed.material, MaterialKind::Gloss);
-  EXPECT_EQ(sheet.popups.get(L"default").primaryAction.surface.hot.material, MaterialKind::Gloss);
-  EXPECT_EQ(sheet.panels.get(L"glass").surface.material, MaterialKind::FrostedGlass);
-  EXPECT_EQ(sheet.panels.get(L"glass").surface.materialStrength, 124);
-  EXPECT_EQ(sheet.panels.get(L"raised").surface.materialStrength, 112);
-  const StyleSheet glass(Skin(L",\"materials\":{\"surface\":\"glass\"}"));
-  EXPECT_EQ(glass.panels.get(L"glass").surface.material, MaterialKind::Glass);
-}
-
-// A window reads only its "default" override; aliases copy action styles the skin lacks.
-TEST(StyleSheet, TypesIdsWindowAndAliases) {
-  const StyleSheet sheet(
-      Skin(L",\"styles\":{\"tree_list\":{\"x\":{\"rowHeight\":40}},\"combo\":{\"x\":{"
-           L"\"itemHeight\":33}},\"list\":{\"x\":{\"rowHeight\":41}},\"Text-Style\":{\"x\":{"
-           L"\"weight\":\"bold\"}},\"gizmo\":{\"x\":{\"a\":1}},\"window\":{\"primary\":{"
-           L"\"resizeBorderThickness\":20}},\"button\":{\"warning-action\":{\"surface\":{\"fill\":"
-           L"\"#010203\"}},\"success\":{\"surface\":{\"fill\":\"#040506\"}}}}"));
-  EXPECT_EQ(sheet.listBoxes.get(L"x").rowHeight, 40);
-  EXPECT_EQ(sheet.selectBoxes.get(L"x").itemHeight, 33);
-  EXPECT_EQ(sheet.tableLists.get(L"x").rowHeight, 41);
-  EXPECT_EQ(sheet.text.get(L"x").weight, 700);
-  EXPECT_FALSE(sheet.tooltips.contains(L"x"));
-  EXPECT_EQ(sheet.window().resizeBorderThickness, WindowStyle().resizeBorderThickness);
-  const StyleSheet byDefault(
-      Skin(L",\"styles\":{\"windowstyle\":{\"default\":{\"resizeBorderThickness\":20,\"surface\":"
-           L"{\"fill\":\"#332211\"}}}}"));
-  EXPECT_EQ(byDefault.window().resizeBorderThickness, 20);
-  EXPECT_EQ(byDefault.window().surface.fill, rgbColor(0x33, 0x22, 0x11));
-
-  EXPECT_EQ(&sheet.cards.get(L"nope"), &sheet.cards.get(L"default"));
-  EXPECT_EQ(&sheet.buttons.get(L"Primary_Action"), &sheet.buttons.get(L"primary-action"));
-  EXPECT_EQ(sheet.buttons.get(L"success-action").surface.normal.fill, rgbColor(4, 5, 6));
-  EXPECT_EQ(sheet.buttons.get(L"warning-action").surface.normal.fill, rgbColor(1, 2, 3));
-  for (const wchar_t* id : {L"danger-action", L"action", L"designed-help"})
-    EXPECT_TRUE(sheet.buttons.contains(id)) << id;
-}
+#define STATES(map, member) \
+  [](const StyleSheet& s) -> const ControlStates& { return s.map.get(L"x").member; }
 
 // Skins key each state of these controls apart; every spelling lands on its own state alone.
 TEST(StyleSheet, StateKeysLandOnTheirStateAlone) {
-  struct Case {
-    const wchar_t* type;
-    const wchar_t* key;
+  using CS = ControlStates;
+  const struct {
+    const wchar_t *type, *key;
     const ControlStates& (*states)(const StyleSheet&);
     SurfaceStyle ControlStates::*state;
+  } kCases[] = {
+      {L"checkbox", L"boxUncheckedHot", STATES(checkBoxes, unchecked), &CS::hot},
+      {L"checkbox", L"box_checked_disabled", STATES(checkBoxes, checked), &CS::disabled},
+      {L"selectbox", L"pressedSurface", STATES(selectBoxes, surface), &CS::pressed},
+      {L"combo", L"arrowPressedSurface", STATES(selectBoxes, arrowSurface), &CS::pressed},
+      {L"selectbox", L"optionSelectedSurface", STATES(selectBoxes, optionSurface), &CS::active},
+      {L"textinput", L"focusedSurface", STATES(textInputs, surface), &CS::active},
+      {L"dateinput", L"daySelectedSurface", STATES(dateInputs, daySurface), &CS::active},
+      {L"menubar", L"itemActiveSurface", STATES(menuBars, itemSurface), &CS::active},
+      {L"menu", L"popupItemPressedSurface", STATES(menuBars, popupItemSurface), &CS::pressed},
+      {L"listbox", L"selectedRowHot", STATES(listBoxes, selectedRow), &CS::hot},
   };
-  const Case kCases[] = {
-      {L"checkbox", L"boxUncheckedHot",
-       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").unchecked; },
-       &ControlStates::hot},
-      {L"checkbox", L"box_checked_disabled",
-       [](const StyleSheet& s) -> const ControlStates& { return s.checkBoxes.get(L"x").checked; },
-       &ControlStates::disabled},
-      {L"selectbox", L"pressedSurface",
-       [](const StyleSheet& s) -> const ControlStates& { return s.selectBoxes.get(L"x").surface; },
-       &ControlStates::pressed},
-      {L"combo", L"arrowPressedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.selectBoxes.get(L"x").arrowSurface;
-       },
-       &ControlStates::pressed},
-      {L"selectbox", L"optionSelectedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.selectBoxes.get(L"x").optionSurface;
-       },
-       &ControlStates::active},
-      {L"textinput", L"focusedSurface",
-       [](const StyleSheet& s) -> const ControlStates& { return s.textInputs.get(L"x").surface; },
-       &ControlStates::active},
-      {L"dateinput", L"daySelectedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.dateInputs.get(L"x").daySurface;
-       },
-       &ControlStates::active},
-      {L"menubar", L"itemActiveSurface",
-       [](const StyleSheet& s) -> const ControlStates& { return s.menuBars.get(L"x").itemSurface; },
-       &ControlStates::active},
-      {L"menu", L"popupItemPressedSurface",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.menuBars.get(L"x").popupItemSurface;
-       },
-       &ControlStates::pressed},
-      {L"listbox", L"selectedRowHot",
-       [](const StyleSheet& s) -> const ControlStates& {
-         return s.listBoxes.get(L"x").selectedRow;
-       },
-       &ControlStates::hot},
-  };
-  const Color kGiven = rgbColor(0x0A, 0x0B, 0x0C);
-  for (const Case& c : kCases) {
+  for (const auto& c : kCases) {
     const std::wstring type = c.type, key = c.key;
     SCOPED_TRACE(std::string(key.begin(), key.end()));
     const StyleSheet sheet(
         Skin(L",\"styles\":{\"" + type + L"\":{\"x\":{\"" + key + L"\":{\"fill\":\"#0A0B0C\"}}}}"));
     const ControlStates& states = c.states(sheet);
-    for (SurfaceStyle ControlStates::*state :
-         {&ControlStates::normal, &ControlStates::hot, &ControlStates::pressed,
-          &ControlStates::disabled, &ControlStates::active}) {
-      EXPECT_EQ((states.*state).fill == kGiven, state == c.state);
-    }
+    for (auto state : {&CS::normal, &CS::hot, &CS::pressed, &CS::disabled, &CS::active})
+      EXPECT_EQ((states.*state).fill == rgbColor(0x0A, 0x0B, 0x0C), state == c.state);
   }
 }
 
 // Hovering strengthens a control's material, pressing and disabling weaken it; a surface on the
-// skin's surface slot never shines above the skin's own strength.
-void ExpectStatesOrdered(const ControlStates& states, const std::string& what) {
-  const SurfaceStyle* const order[] = {&states.hot, &states.normal, &states.pressed,
-                                       &states.disabled};
+// skin's surface slot never shines above the skin's own strength (120).
+void ExpectStatesOrdered(const ControlStates& s, const std::string& what) {
+  const SurfaceStyle* const order[] = {&s.hot, &s.normal, &s.pressed, &s.disabled};
   for (size_t i = 0; i < std::size(order); ++i) {
     for (size_t j = i + 1; j < std::size(order); ++j) {
-      if (order[i]->material == MaterialKind::None || order[j]->material == MaterialKind::None)
-        continue;
-      EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength)
-          << what << " states " << i << " and " << j;
+      if (order[i]->material != MaterialKind::None && order[j]->material != MaterialKind::None) {
+        EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength) << what << i << j;
+      }
     }
   }
 }
 
 template <typename Record>
-void ExpectMaterialOrder(Record record, const std::string& what, int32_t strength) {
+void ExpectMaterialOrder(Record record, const std::string& what) {
   std::set<const ControlStates*> seen;  // several rows may name states of one set
   for (const StyleField<Record>& field : StyleFields<Record>::rows) {
     if (const auto* state = std::get_if<StateOf<Record>>(&field.target)) {
@@ -193,43 +117,54 @@ void ExpectMaterialOrder(Record record, const std::string& what, int32_t strengt
       if constexpr (std::is_same_v<Value, ControlStates>) {
         ExpectStatesOrdered(value, what);
       } else if constexpr (StyleRecord<Value>) {
-        ExpectMaterialOrder(value, what + " nested", strength);
+        ExpectMaterialOrder(value, what + " nested");
       } else if constexpr (std::is_same_v<Value, SurfaceStyle>) {
         if (field.material.slot == &MaterialProfile::surface) {
-          EXPECT_LE(value.materialStrength, strength) << what;
+          EXPECT_LE(value.materialStrength, 120) << what;
         }
       }
     });
   }
 }
 
-TEST(StyleSheet, MaterialStrengthFollowsTheStates) {
+// Accent buttons take `button.primary`; a glass panel frosts over paper; an unset metric of the
+// shapes block keeps the builder's. Materials follow the states throughout.
+TEST(StyleSheet, ShapeRolesMaterialSlotsAndMaterialStrengthFollowsTheStates) {
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
-           L"\"gloss\",\"strength\":120}"));
-  const auto each = [](const auto& map, const char* kind) {
-    for (const auto& [id, record] : map.all())
-      ExpectMaterialOrder(record, kind + std::string(" ") + std::string(id.begin(), id.end()), 120);
+           L"\"gloss\",\"strength\":120},\"shapes\":{\"button\":{\"primary\":\"pill\"},"
+           L"\"table\":{\"header\":\"bevel\"},\"scrollbar\":{\"thumbThickness\":7,"
+           L"\"showButtons\":true}}"));
+  const auto shape = [&](const wchar_t* id) { return sheet.buttons.get(id).surface.pressed.shape; };
+  EXPECT_TRUE(shape(L"primary") == ShapeKind::Capsule && shape(L"danger") == ShapeKind::Capsule &&
+              shape(L"default") != ShapeKind::Capsule);
+  EXPECT_FALSE(sheet.buttons.get(L"primary").hitShape.present);
+  const TableListStyle& table = sheet.tableLists.get(L"default");
+  EXPECT_TRUE(table.header.shape == ShapeKind::Bevel && table.row.shape != ShapeKind::Bevel);
+  const ScrollBarStyle& bar = sheet.selectBoxes.get(L"default").scrollBar;
+  EXPECT_TRUE(bar.thumbThickness == 7 && bar.showButtons && bar.buttonExtent > 0);
+  const CheckBoxStyle& box = sheet.checkBoxes.get(L"default");
+  EXPECT_EQ(box.unchecked.pressed.material, MaterialKind::Rubber);
+  EXPECT_EQ(box.checked.pressed.material, MaterialKind::Gloss);
+  EXPECT_EQ(sheet.popups.get(L"default").primaryAction.surface.hot.material, MaterialKind::Gloss);
+  const SurfaceStyle& glassy = sheet.panels.get(L"glass").surface;
+  EXPECT_TRUE(glassy.material == MaterialKind::FrostedGlass && glassy.materialStrength == 124);
+  EXPECT_EQ(sheet.panels.get(L"raised").surface.materialStrength, 112);
+  const StyleSheet glass(Skin(L",\"materials\":{\"surface\":\"glass\"}"));
+  EXPECT_EQ(glass.panels.get(L"glass").surface.material, MaterialKind::Glass);
+  const auto each = [&](auto... maps) {
+    const auto one = [](const auto& map) {
+      for (const auto& [id, record] : map.all())
+        ExpectMaterialOrder(record, typeid(record).name() + std::string(id.begin(), id.end()));
+    };
+    (one(sheet.*maps), ...);
   };
-  each(sheet.buttons, "button");
-  each(sheet.cards, "card");
-  each(sheet.chromeTitleBars, "chrome");
-  each(sheet.statusChips, "chip");
-  each(sheet.progressBars, "progress");
-  each(sheet.scrollBars, "scroll");
-  each(sheet.checkBoxes, "check");
-  each(sheet.selectBoxes, "select");
-  each(sheet.listBoxes, "list");
-  each(sheet.dateInputs, "date");
-  each(sheet.tabStrips, "tabs");
-  each(sheet.menuBars, "menu");
-  each(sheet.tableLists, "table");
-  each(sheet.richTexts, "rich");
-  each(sheet.textInputs, "input");
-  each(sheet.selectableTexts, "selectable");
-  each(sheet.popups, "popup");
-  each(sheet.tooltips, "tooltip");
-  ExpectMaterialOrder(sheet.window(), "window", 120);
+  using S = StyleSheet;
+  each(&S::buttons, &S::cards, &S::chromeTitleBars, &S::statusChips, &S::progressBars,
+       &S::scrollBars, &S::checkBoxes, &S::selectBoxes, &S::listBoxes, &S::dateInputs,
+       &S::tabStrips, &S::menuBars, &S::tableLists, &S::richTexts, &S::textInputs,
+       &S::selectableTexts, &S::popups, &S::tooltips);
+  ExpectMaterialOrder(sheet.window(), "window");
 }
 
 }  // namespace
