@@ -49,8 +49,8 @@ BitmapTint tintOf(TintMode mode, uint8_t amount = 255, MaskChannel channel = Mas
   return tint;
 }
 
-BitmapTint greyPalette(int count, uint8_t threshold = 0) {
-  BitmapTint tint = tintOf(TintMode::Palette, 255, MaskChannel::Alpha, false, false, threshold);
+BitmapTint greyPalette(int count, uint8_t threshold = 0, MaskChannel channel = MaskChannel::Alpha) {
+  BitmapTint tint = tintOf(TintMode::Palette, 255, channel, false, false, threshold);
   tint.paletteCount = uint8_t(count);
   for (int i = 0; i < count; ++i)
     tint.palette[size_t(i)] = rgbColor(i * 10, i * 10, i * 10);
@@ -122,11 +122,7 @@ TEST(TintedImage, PaletteRanksFewColoursByLumaElseIndexesByTheMask) {
       {"one colour indexes by the mask",
        {kOpaque},
        {grey(10)},
-       [] {
-         BitmapTint tint = greyPalette(4);
-         tint.maskChannel = MaskChannel::Green;
-         return tint;
-       }()},
+       greyPalette(4, 0, MaskChannel::Green)},
   };
   for (const auto& c : kCases) {
     const Image tinted = tintedImage(row(c.pixels), c.tint);
