@@ -23,7 +23,7 @@ struct Box : Control {
 // A memory device context over a 32-bit section filled with `ground`, read back directly.
 struct MemoryTarget {
   MemoryTarget(int width, int height, Color ground) : width(width), height(height) {
-    BITMAPINFO info{{sizeof(BITMAPINFOHEADER), width, -height, 1, 32}};
+    BITMAPINFO info{{sizeof(BITMAPINFOHEADER), width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
     bitmap =
         CreateDIBSection(dc, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&bits), nullptr, 0);
     previous = SelectObject(dc, bitmap);

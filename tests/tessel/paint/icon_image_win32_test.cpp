@@ -10,7 +10,7 @@ namespace {
 
 // The image of an icon made of a 16 x 16 colour section and a monochrome mask.
 Image ImageOfIcon(const std::vector<uint32_t>& argb, const std::vector<uint16_t>& maskRows) {
-  BITMAPINFO info{{sizeof(BITMAPINFOHEADER), 16, -16, 1, 32}};
+  BITMAPINFO info{{sizeof(BITMAPINFOHEADER), 16, -16, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
   void* bits = nullptr;
   ICONINFO parts{};
   parts.fIcon = TRUE;
