@@ -10,12 +10,7 @@ namespace {
 
 // The image of an icon made of a 16 x 16 colour section and a monochrome mask.
 Image ImageOfIcon(const std::vector<uint32_t>& argb, const std::vector<uint16_t>& maskRows) {
-  BITMAPINFO info{};
-  info.bmiHeader.biSize = sizeof(info.bmiHeader);
-  info.bmiHeader.biWidth = 16;
-  info.bmiHeader.biHeight = -16;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
+  BITMAPINFO info{{sizeof(BITMAPINFOHEADER), 16, -16, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
   void* bits = nullptr;
   ICONINFO parts{};
   parts.fIcon = TRUE;

@@ -27,7 +27,6 @@ TEST(FindLayerRuns, RowsBecomeFillsBlendsAndGaps) {
       {"two colours side by side", "RRRRRRRRBBBBBBBB", {{0, 0, 8, kRed}, {0, 8, 16, kBlue}}},
       {"short gap inside a blend", "hhttttttthh", {{0, 0, 11, 0}}},
       {"long gap splits", "hhtttttttthh", {{0, 0, 2, 0}, {0, 10, 12, 0}}},
-      {"trailing transparency dropped", "hRRthttt", {{0, 0, 5, 0}}},
   };
   for (const auto& c : kCases) {
     Image image = Image::blank(int32_t(c.row.size()), 1);

@@ -16,7 +16,6 @@ using P = UiPerformanceProfile;
 const std::string kFolder = "tests/tessel/paint/golden/materials/";
 const Rect kSurface{0, 0, 96, 64};
 
-// A layer over a mid-dark slate, so that light and dark parts both show.
 ::testing::AssertionResult matches(const Image& layer, const std::string& name) {
   Image sheet = Image::blank(kSurface.width, kSurface.height);
   ImageCanvas canvas(sheet);
@@ -25,8 +24,7 @@ const Rect kSurface{0, 0, 96, 64};
   return MatchesGoldenImage(sheet, kFolder + name + ".pam", 1);
 }
 
-// Each kind with a tint that suits it; the dark glasses darken the ground little at middling
-// values, so stronger light for them.
+// Each kind with a tint that suits it; stronger light for the dark glasses.
 struct Kind {
   MaterialKind kind;
   const char* name;
@@ -63,8 +61,8 @@ SurfaceStyle materialStyle(const Kind& k) {
   s.material = k.kind;
   s.materialTint = k.tint;
   s.materialStrength = 180;
-  s.highlightOpacity = 80;
-  s.reflectionOpacity = 60;
+  s.highlightOpacity = k.highlight;
+  s.reflectionOpacity = k.reflection;
   s.roughness = 110;
   s.specular = 130;
   s.ambientOcclusion = 70;
@@ -85,8 +83,6 @@ Image overlay(const SurfaceStyle& style) {
 TEST(MaterialGolden, EachKind) {
   for (const auto& k : kKinds) {
     SurfaceStyle s = materialStyle(k);
-    s.highlightOpacity = k.highlight;
-    s.reflectionOpacity = k.reflection;
     s.materialDepth = 64;
     if (k.kind == MaterialKind::BrushedMetal) s.finish = 2;
     EXPECT_TRUE(matches(overlay(s), std::string("kind_") + k.name));

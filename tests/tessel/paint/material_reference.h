@@ -1,6 +1,7 @@
 // A plain per-pixel transcription of the material layers, with the standard library's pow, exp
 // and sin, written for reading rather than speed. The painter's row-wise code must stay within
-// one step per channel of it.
+// one step per channel of it. The overlay knows the kinds in kReferenceKinds and no finish: the
+// golden images hold the other kinds and every finish.
 #pragma once
 
 #include "tessel/style/geometry.h"
@@ -8,6 +9,12 @@
 #include "tessel/style/surface_style.h"
 
 namespace tessel::reference {
+
+inline constexpr MaterialKind kReferenceKinds[] = {
+    MaterialKind::Glass,        MaterialKind::FrostedGlass, MaterialKind::Gloss,
+    MaterialKind::Metal,        MaterialKind::BrushedMetal, MaterialKind::Plastic,
+    MaterialKind::Rubber,       MaterialKind::Paper,        MaterialKind::CarbonFiber,
+    MaterialKind::LuminousGlass};
 
 // The overlay of `style` over a surface at `rect`, as if its gate had passed, with the
 // effective depth and form given: `cheap` selects the LuminousGlass cheap form.

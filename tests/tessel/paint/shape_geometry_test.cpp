@@ -22,21 +22,20 @@ TEST(ShapeGeometry, ArcsAndCutsKeepTheirBounds) {
   // A radius of a quarter of the smaller side kept to 4..12, no wider than that side, at least 1.
   const struct {
     int32_t width, height, expected;
-  } kDiameters[] = {{10, 10, 8}, {100, 30, 14}, {200, 200, 24}, {5, 20, 5}, {0, 0, 1}, {-5, 10, 1}};
+  } kDiameters[] = {{10, 10, 8}, {100, 30, 14}, {200, 200, 24}, {5, 20, 5}, {-5, 10, 1}};
   for (const auto& c : kDiameters)
     EXPECT_EQ(cornerDiameter(c.width, c.height), c.expected) << c.width << "x" << c.height;
   // The smaller side over the divisor within 1 and half that side (1 below a side of 4).
   const struct {
     int32_t width, height, divisor, expected;
-  } kCuts[] = {{100, 100, 3, 33}, {30, 12, 3, 4}, {10, 10, 1, 5},   {3, 3, 1, 1},
-               {4, 4, 1, 2},      {0, 0, 5, 1},   {100, 100, 0, 50}};
+  } kCuts[] = {{100, 100, 3, 33}, {30, 12, 3, 4}, {3, 3, 1, 1}, {4, 4, 1, 2}, {100, 100, 0, 50}};
   for (const auto& c : kCuts)
     EXPECT_EQ(polygonCut(c.width, c.height, c.divisor), c.expected)
         << c.width << "x" << c.height << "/" << c.divisor;
   // min(width / 4, height / 2) within 1 and width / 2 (1 when that is below 2).
   const struct {
     int32_t width, height, expected;
-  } kHexagonCuts[] = {{100, 20, 10}, {24, 40, 6}, {200, 6, 3}, {3, 3, 1}, {0, 0, 1}};
+  } kHexagonCuts[] = {{100, 20, 10}, {24, 40, 6}, {200, 6, 3}, {3, 3, 1}};
   for (const auto& c : kHexagonCuts)
     EXPECT_EQ(hexagonCut(c.width, c.height), c.expected) << c.width << "x" << c.height;
 }
@@ -61,14 +60,13 @@ TEST(ShapePolygon, CornersClockwiseFromTheTop) {
       {ShapeKind::SlantLeft, {2, 3, 40, 24}, {{2, 3}, {32, 3}, {42, 27}, {12, 27}}},
       {ShapeKind::Capsule, {0, 0, 10, 10}, {}},  // no polygon
       {ShapeKind::Diamond, {0, 0, 0, 10}, {}},
-      {ShapeKind::Hexagon, {0, 0, 10, -1}, {}},
   };
   for (const auto& c : kCases)
     EXPECT_EQ(shapePolygon(c.kind, c.rect), c.points) << int(c.kind);
 }
 
-// Worked out by hand from the outline rules, at pixel centres (x + 0.5, y + 0.5) where they say
-// so, at sizes the golden images don't have (shape_golden_test.cpp has 1x1, 3x50, 40x24, 24x40).
+// Worked out by hand from the outline rules at sizes the golden images don't have
+// (shape_golden_test.cpp has 1x1, 3x50, 40x24, 24x40): pixel centres where the rule says so.
 TEST(IsInsideShape, HandComputedPoints) {
   const struct {
     const char* what;
@@ -79,44 +77,18 @@ TEST(IsInsideShape, HandComputedPoints) {
       // RoundedRect 10x10: radius 4, corner centres at 4 and 6.
       {"rounded arc, 14.5 <= 16", ShapeKind::RoundedRect, 10, 10, 0, 2, true},
       {"rounded arc, 18.5 > 16", ShapeKind::RoundedRect, 10, 10, 0, 1, false},
-      {"rounded far arc", ShapeKind::RoundedRect, 10, 10, 8, 8, true},
       // Capsule 40x10: radius 5, end centres (5, 5) and (35, 5), integer coordinates.
       {"wide capsule just off the cap", ShapeKind::Capsule, 40, 10, 4, 0, false},
       {"wide capsule cap tip", ShapeKind::Capsule, 40, 10, 0, 5, true},
-      {"wide capsule beside the tip", ShapeKind::Capsule, 40, 10, 0, 4, false},
-      {"wide capsule right corner", ShapeKind::Capsule, 40, 10, 39, 9, false},
-      {"tall capsule beside the tip", ShapeKind::Capsule, 10, 40, 4, 0, false},
       {"tall capsule straight side", ShapeKind::Capsule, 10, 40, 0, 5, true},
       {"tall capsule off the cap", ShapeKind::Capsule, 10, 40, 0, 4, false},
-      // Diamond 5x5: centre (2, 2), half extents 2.
-      {"diamond on the edge", ShapeKind::Diamond, 5, 5, 1, 1, true},
-      {"diamond beyond the edge", ShapeKind::Diamond, 5, 5, 0, 1, false},
-      {"diamond beyond lower right", ShapeKind::Diamond, 5, 5, 4, 3, false},
-      {"diamond 7x3 beside the top", ShapeKind::Diamond, 7, 3, 2, 0, false},
-      {"diamond 4x4 top row", ShapeKind::Diamond, 4, 4, 1, 0, false},
       {"diamond 2x2 is full", ShapeKind::Diamond, 2, 2, 0, 0, true},
       {"bevel 3x3 corner", ShapeKind::Bevel, 3, 3, 2, 2, false},
-      {"bevel 3x3 edge", ShapeKind::Bevel, 3, 3, 1, 0, true},
-      // Octagon 30x30: cut 10.
-      {"octagon left cut", ShapeKind::Octagon, 30, 30, 0, 9, false},
-      {"octagon left side", ShapeKind::Octagon, 30, 30, 0, 10, true},
-      {"octagon bottom right diagonal", ShapeKind::Octagon, 30, 30, 24, 24, true},
-      {"octagon bottom right cut", ShapeKind::Octagon, 30, 30, 25, 24, false},
-      // Hexagon 100x20: cut 10, centre row 9.5.
-      {"hexagon top before the cut", ShapeKind::Hexagon, 100, 20, 9, 0, false},
-      {"hexagon top right end", ShapeKind::Hexagon, 100, 20, 89, 0, true},
       {"hexagon middle row misses the tip", ShapeKind::Hexagon, 100, 20, 0, 9, false},
-      {"hexagon middle row right", ShapeKind::Hexagon, 100, 20, 98, 9, true},
-      {"hexagon row 5, s 4.74", ShapeKind::Hexagon, 100, 20, 5, 5, true},
-      {"hexagon row 5 outside", ShapeKind::Hexagon, 100, 20, 4, 5, false},
-      // Slants on a single row: t is 0.
       {"slant right single row skips x 0", ShapeKind::SlantRight, 20, 1, 0, 0, false},
-      {"slant right single row", ShapeKind::SlantRight, 20, 1, 1, 0, true},
-      {"slant left single row end", ShapeKind::SlantLeft, 20, 1, 19, 0, false},
   };
   for (const auto& c : kCases)
-    EXPECT_EQ(isInsideShape(c.kind, c.width, c.height, c.x, c.y), c.inside)
-        << c.what << " (" << c.x << ", " << c.y << ") of " << c.width << "x" << c.height;
+    EXPECT_EQ(isInsideShape(c.kind, c.width, c.height, c.x, c.y), c.inside) << c.what;
   // A square capsule is a circle.
   for (int32_t y = 0; y < 40; ++y)
     for (int32_t x = 0; x < 40; ++x)
@@ -176,7 +148,6 @@ TEST(ShapeRowSpan, HoldsExactlyTheInsidePixelsOfEachRow) {
 TEST(ShapeGeometry, PenRectInsetsAndIntersections) {
   // The pen stays inside and never collapses.
   EXPECT_EQ(strokePenRect({0, 0, 40, 24}, 3), (Rect{1, 1, 37, 21}));
-  EXPECT_EQ(strokePenRect({5, 7, 40, 24}, 0), (Rect{5, 7, 39, 23}));
   EXPECT_EQ(strokePenRect({0, 0, 1, 1}, 2), (Rect{1, 1, 1, 1}));
   EXPECT_EQ(strokePenRect({10, 10, 3, 50}, 4), (Rect{12, 12, 1, 46}));
   // Insets are clamped side by side so that nothing grows and no size goes negative.
@@ -187,7 +158,6 @@ TEST(ShapeGeometry, PenRectInsetsAndIntersections) {
   } kInsets[] = {
       {{10, 20, 100, 50}, {5, 6, 7, 8}, {15, 26, 88, 36}},
       {{0, 0, 10, 10}, {20, 0, 0, 0}, {10, 0, 0, 10}},
-      {{0, 0, 10, 10}, {4, 4, 8, 8}, {4, 4, 0, 0}},
       {{3, 4, 10, 10}, {INT_MAX, INT_MAX, INT_MAX, INT_MAX}, {13, 14, 0, 0}},
       {{0, 0, 10, 10}, {-5, -5, -5, -5}, {0, 0, 10, 10}},
       {{5, 5, -3, -3}, {1, 1, 1, 1}, {5, 5, 0, 0}},
@@ -199,10 +169,8 @@ TEST(ShapeGeometry, PenRectInsetsAndIntersections) {
     Rect a, b, expected;
   } kIntersections[] = {
       {{0, 0, 10, 10}, {5, 5, 10, 10}, {5, 5, 5, 5}},
-      {{0, 0, 10, 10}, {2, 3, 4, 5}, {2, 3, 4, 5}},
       {{-5, -5, 10, 10}, {0, 0, 10, 10}, {0, 0, 5, 5}},
       {{0, 0, 10, 10}, {10, 0, 5, 5}, {}},
-      {{30, 30, 10, 10}, {50, 50, 5, 5}, {}},
       {{2, 2, 0, 10}, {0, 0, 10, 10}, {}},
   };
   for (const auto& c : kIntersections) {

@@ -1,6 +1,5 @@
 // After a deliberate change, regenerate from the project root (see golden/README.txt):
 //   STAYHOLD_REGENERATE_GOLDEN=1 build/native/tests/tessel_tests --gtest_filter='ShapeGolden.*'
-#include <filesystem>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -34,9 +33,8 @@ TEST(ShapeGolden, EveryKindFilledAndStroked) {
   }
 }
 
-// The comparison every golden test rests on can fail, names the pixel, and the PAM files keep
-// the premultiplied bytes.
-TEST(GoldenImage, ToleranceIsPerChannelFailuresNameThePixelAndPamRoundTrips) {
+// The comparison every golden test rests on can fail, per channel beyond the tolerance.
+TEST(GoldenImage, ToleranceIsPerChannel) {
   if (RegeneratingGoldenImages()) GTEST_SKIP() << "would overwrite a fixture";
   const std::string file = "tests/tessel/paint/golden/shapes/diamond_40x24.pam";
   Image image;
@@ -44,20 +42,8 @@ TEST(GoldenImage, ToleranceIsPerChannelFailuresNameThePixelAndPamRoundTrips) {
   uint8_t& red = image.pixel(5, 7)[2];
   red = red == 255 ? 254 : uint8_t(red + 1);
   EXPECT_TRUE(MatchesGoldenImage(image, file, 1));
-  const ::testing::AssertionResult strict = MatchesGoldenImage(image, file, 0);
-  EXPECT_FALSE(strict);
-  EXPECT_NE(std::string(strict.message()).find("1 pixel(s) differ"), std::string::npos);
-  EXPECT_NE(std::string(strict.message()).find("(5, 7)"), std::string::npos);
+  EXPECT_FALSE(MatchesGoldenImage(image, file, 0));
   EXPECT_FALSE(MatchesGoldenImage(Image::blank(4, 4), file, 255));  // size differs
-  for (size_t i = 0; i < image.pixels->size(); ++i)
-    (*image.pixels)[i] = uint8_t(i * 11);  // colour above alpha too
-  const auto path = std::filesystem::temp_directory_path() / "stayhold_golden_round_trip.pam";
-  ASSERT_TRUE(WritePamImage(path, image));
-  Image read;
-  ASSERT_TRUE(ReadPamImage(path, read));
-  std::filesystem::remove(path);
-  EXPECT_EQ(read.width, image.width);
-  EXPECT_EQ(*read.pixels, *image.pixels);
 }
 
 }  // namespace
