@@ -17,13 +17,11 @@ Image Filled(Color color) {
   return image;
 }
 
+// No disabled or active image.
 BitmapButton ThreeStates(const wchar_t* id = L"b") {
-  BitmapButtonStyle style;
-  style.text = PlainText(rgbColor(250, 250, 250));
-  // No disabled or active image.
   return BitmapButton(id, Rect{0, 0, 20, 20},
                       BitmapButtonImages{Filled(kNormal), Filled(kHot), Filled(kPressed), {}, {}},
-                      L"", style);
+                      L"", BitmapButtonStyle{});
 }
 
 TEST(BitmapButton, StateImagesFallBackToTheNormalOneAndTintsRecolourThem) {
@@ -31,11 +29,7 @@ TEST(BitmapButton, StateImagesFallBackToTheNormalOneAndTintsRecolourThem) {
     bool enabled, pressed, active, hot;
     Color shown;
   };
-  const Case cases[] = {{true, false, false, false, kNormal},
-                        {true, false, false, true, kHot},
-                        {true, true, false, true, kPressed},
-                        {true, false, true, true, kNormal},
-                        {false, true, false, false, kNormal}};
+  const Case cases[] = {{true, true, false, true, kPressed}, {false, true, true, true, kNormal}};
   for (const Case& c : cases) {
     BitmapButton button = ThreeStates();
     button.setEnabled(c.enabled);
@@ -50,7 +44,8 @@ TEST(BitmapButton, StateImagesFallBackToTheNormalOneAndTintsRecolourThem) {
   style.tints.hot.color = rgbColor(200, 0, 0);
   tinted.setStyle(style);
   tinted.setHot(true);
-  EXPECT_NE(PixelAt(PaintedImage(tinted, {20, 20}), 10, 10), kHot);
+  const Color shown = PixelAt(PaintedImage(tinted, {20, 20}), 10, 10);
+  EXPECT_TRUE(shown != kHot && shown != kNormal);
 }
 
 TEST(BitmapButton, ClicksHitOnlyWhereTheImageIsOpaque) {

@@ -1,5 +1,5 @@
 // Plain looks for control tests: flat one-colour surfaces without border, so that a pixel tells
-// which surface was painted; a count of the pixels of one colour; and a record of system moves.
+// which surface was painted; where a colour shows; and a record of system moves.
 #pragma once
 
 #include <algorithm>
@@ -40,14 +40,6 @@ inline ButtonStyle FlatButton(const std::vector<Color>& states) {
     *surfaces[i] = FlatSurface(states[i]);
   style.text = PlainText(rgbColor(250, 250, 250));
   return style;
-}
-
-inline int CountColor(const Image& image, Color color) {
-  int count = 0;
-  for (int32_t y = 0; y < image.height; ++y)
-    for (int32_t x = 0; x < image.width; ++x)
-      count += PixelAt(image, x, y) == color && image.pixel(x, y)[3] == 255;
-  return count;
 }
 
 // The first and last columns that hold `color`; (width, -1) when none does.
