@@ -28,7 +28,6 @@ TEST(ProgressBar, LayoutOfTrackFillAndLabelColumn) {
       // Without a width the column is a third of the track's height; at most half the track.
       {0, {0, 0, 206, 24}, 100, true, {3, 3, 194, 18}, {3, 3, 194, 18}, {197, 3, -2, 18}},
       {48, {0, 0, 46, 24}, 100, true, {3, 3, 20, 18}, {3, 3, 20, 18}, {23, 3, 12, 18}},
-      {48, {0, 0, 206, 24}, 0, true, {3, 3, 152, 18}, {}, {155, 3, 40, 18}},
       {48, {10, 10, 206, 24}, 140, true, {13, 13, 152, 18}, {13, 13, 152, 18}, {165, 13, 40, 18}}};
   for (const Case& c : cases) {
     const ProgressBarLayout layout =

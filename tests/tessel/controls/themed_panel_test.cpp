@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "tessel/paint/shape_geometry.h"
-#include "tessel/skin/style_sheet.h"
 #include "tests/tessel/core/test_controls.h"
 
 namespace tessel {
@@ -14,18 +13,6 @@ PanelStyle Plain(ShapeKind shape) {
   style.surface.shape = shape;
   style.padding = 10;
   return style;
-}
-
-TEST(ThemedPanel, ChildrenGetTheUsableAreaLessThePadding) {
-  PanelStyle style = Plain(ShapeKind::Rectangle);
-  style.surface.childLayoutInsets = Insets{4, 6, 4, 6};
-  ThemedPanel panel(L"body", Rect{0, 0, 200, 100}, style);
-  EXPECT_EQ(panel.contentRegions(), (std::vector<Rect>{{14, 16, 172, 68}}));
-  panel.setPadding(0);
-  EXPECT_EQ(panel.contentBounds(), (Rect{4, 6, 192, 88}));
-  panel.setHasSurface(false);  // without a surface it is a plain panel
-  EXPECT_EQ(panel.contentBounds(), (Rect{0, 0, 200, 100}));
-  EXPECT_TRUE(applyStyleId(StyleSheet{Theme{}}, panel, L"default"));
 }
 
 TEST(ThemedPanel, ShapedContentAndThePointerStayInsideTheOutline) {
