@@ -23,6 +23,7 @@ TEST(CheckBox, AClickTogglesAndTellsTheNewAndPreviousStateSetCheckedIsSilent) {
   box.onValueChanged([&](ValueChangedEvent& event) {
     seen.push_back(event.text + L"<" + event.previousText + (event.checked ? L" on" : L" off") +
                    (event.previousChecked ? L"<on" : L"<off"));
+    EXPECT_EQ(event.sender, &box);  // filled in before the handlers run
     event.handled = veto;
   });
   box.setOnChanged([&](bool checked) { seen.push_back(checked ? L"changed on" : L"changed off"); });
@@ -59,12 +60,13 @@ TEST(CheckBox, StateRoundTripsSilentlyLongTextIsClippedAndASkinNeedsTheId) {
   box.setChecked(true);
   ControlState state;
   box.captureState(state);
+  state.collapsed = true;
   EXPECT_EQ(state.values, (std::vector<StateValue>{{L"checked", L"true"}}));
   CheckBox restored = Make();
   int events = 0;
   restored.onValueChanged([&](ValueChangedEvent&) { ++events; });
   restored.applyState(state, false);
-  EXPECT_TRUE(restored.checked());
+  EXPECT_TRUE(restored.checked() && restored.collapsed());
   restored.applyExtraState({L"checked", L"0"});
   EXPECT_FALSE(restored.checked());
   EXPECT_EQ(events, 0);

@@ -89,11 +89,6 @@ TEST(ThemedButton, ShapeHitAndSkins) {
   button.setUseShapeHit(true);  // only when asked for, the outline rules
   EXPECT_FALSE(button.containsPoint(Point{0, 0}));
   EXPECT_TRUE(button.containsPoint(Point{30, 12}));
-  // A hit shape of its own rules clicks, whatever the surface's outline.
-  style.hitShape = ShapeStyle{ShapeKind::Diamond, true};
-  style.surface.each([](SurfaceStyle& s) { s.shape = ShapeKind::Rectangle; });
-  button.setStyle(style);
-  EXPECT_FALSE(button.containsPoint(Point{2, 2}));
 
   const StyleSheet sheet{Theme{}};
   EXPECT_FALSE(applyStyleId(sheet, button, L"no-such-style"));

@@ -7,23 +7,6 @@
 namespace tessel {
 namespace {
 
-TEST(PrepareEvent, FillsOnlyWhatIsEmptyAndSetsPhaseOne) {
-  int a = 0, b = 0;  // distinct addresses; nothing here dereferences them
-  Control* const kA = reinterpret_cast<Control*>(&a);
-  Control* const kB = reinterpret_cast<Control*>(&b);
-  Control* const cases[][4] = {{nullptr, kB, kA, kB}, {kB, nullptr, kB, kA}};
-  for (const auto& test : cases) {
-    PopupEvent event;
-    event.sender = test[0];
-    event.target = test[1];
-    event.phase = 7;
-    prepareEvent(event, kA);
-    EXPECT_EQ(event.sender, test[2]);
-    EXPECT_EQ(event.target, test[3]);
-    EXPECT_EQ(event.phase, 1);
-  }
-}
-
 TEST(DispatchInput, TriesTheListsInOrderUntilOneHandles) {
   // The list whose first slot sets `handled` (-1: none); the calls as list * 10 + phase seen,
   // then 100 + list for its second slot.

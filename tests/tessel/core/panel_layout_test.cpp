@@ -107,15 +107,6 @@ TEST(PanelLayout, TheDesignIsCapturedOnAPositiveSizeThatHoldsTheChild) {
   EXPECT_EQ(child->bounds(), (Rect{170, 0, 30, 10}));  // margin 0, not -20
 }
 
-TEST(Panel, CaptureStateTreeDescendsThroughUnnamedControls) {
-  Panel root(L"root", Rect{0, 0, 100, 100});
-  root.add<Panel>(L"", Rect{})->add<Box>(L"inner", Rect{});
-  std::vector<ControlState> states;
-  root.captureStateTree(states);
-  ASSERT_EQ(states.size(), 1u);
-  EXPECT_EQ(states[0].id, L"inner");
-}
-
 TEST(FitToRegions, AShapedParentGivesSpansBandsAndHits) {
   ShapedPanel parent(L"parent", Rect{0, 0, 100, 100});
   parent.regions = {Rect{0, 0, 100, 50}, Rect{0, 50, 50, 50}};  // an L

@@ -64,12 +64,6 @@ class Box : public Control {
     ++ticks;
     return true;
   }
-  void captureExtraState(ControlState& state) const override {
-    state.setValue(L"color", std::to_wstring(color));
-  }
-  void applyExtraState(const StateValue& value) override {
-    if (value.first == L"color") color = static_cast<Color>(std::stoul(value.second));
-  }
   bool applySkin(const StyleSheet&) override { return ++skins > 0; }
 
   Color color;
