@@ -61,18 +61,5 @@ TEST(Card, PressingTheHeaderEmitsTheDragCommandThenMovesTheWindow) {
                                              L"card.header-drag=header-drag"}));
 }
 
-TEST(Card, ClippedTextDependsOnWhereThePointerIs) {
-  // 200 - 2 * 12 = 176 pixels; 9 points estimate 6 pixels a character, so 30 characters clip.
-  const std::wstring longText(30, L'A');
-  Card card(L"card", Rect{0, 0, 200, 150}, longText, Style());
-  card.setSubtitle(longText + L"B");
-  const std::pair<int32_t, std::wstring> cases[] = {
-      {33, longText}, {34, longText + L"B"}, {54, L""}};
-  for (const auto& [y, clipped] : cases) {
-    card.setMousePosition(Point{20, y});
-    EXPECT_EQ(card.clippedText(), clipped) << y;
-  }
-}
-
 }  // namespace
 }  // namespace tessel

@@ -79,11 +79,5 @@ TEST(ChromeTitleBar, ClicksAndCaptionDragsBecomeCommandsNamedByPart) {
                                              L"close handler "}));
 }
 
-TEST(ChromeTitleBar, PulsesBetween188And255) {
-  const std::pair<uint64_t, int> cases[] = {{0, 188}, {200, 198}, {800, 255}, {1600, 188}};
-  for (const auto& [ms, alpha] : cases)
-    EXPECT_EQ(ChromeTitleBar::pulseAlpha(ms), alpha) << ms;
-}
-
 }  // namespace
 }  // namespace tessel

@@ -59,11 +59,6 @@ TEST(ThemedButton, AClickEmitsTheCommandThenCallsOnClickedUnlessHandledOrDisable
 }
 
 TEST(ThemedButton, TextIsPaddedAndEndsWithAnEllipsisWhenLongAndSetsTheMinimumWidth) {
-  for (const auto& [inset, padding] : {std::pair{-3, 2}, {4, 4}, {9, 6}}) {
-    SurfaceStyle surface;
-    surface.textInsets = Insets{inset, inset, inset, inset};
-    EXPECT_EQ(buttonTextPadding(surface), (Insets{padding, padding, padding, padding})) << inset;
-  }
   // 6 pixels a character less the last gap; 40 - 2 * 2 = 36 pixels hold "ABC..." (35).
   ThemedButton longText = Button(L"ABCDEFGHIJ", {0, 0, 40, 20});
   ThemedButton shortened = Button(L"ABC...", {0, 0, 40, 20});

@@ -95,18 +95,6 @@ TEST(PanelLayout, AnchorAndPlacementEdges) {
   }
 }
 
-TEST(PanelLayout, TheDesignIsCapturedOnAPositiveSizeThatHoldsTheChild) {
-  Panel parent(L"parent", Rect{0, 0, 0, 0});
-  Box* child = parent.add<Box>(L"child", Rect{90, 0, 30, 10});
-  child->setAnchors(kAnchorRight);
-  parent.setBounds(Rect{0, 0, 50, 0});
-  EXPECT_FALSE(child->designCaptured());
-  parent.setBounds(Rect{0, 0, 100, 50});
-  EXPECT_EQ(child->designParentSize(), (Size{120, 50}));  // widened to hold the child
-  parent.setBounds(Rect{0, 0, 200, 50});
-  EXPECT_EQ(child->bounds(), (Rect{170, 0, 30, 10}));  // margin 0, not -20
-}
-
 TEST(FitToRegions, AShapedParentGivesSpansBandsAndHits) {
   ShapedPanel parent(L"parent", Rect{0, 0, 100, 100});
   parent.regions = {Rect{0, 0, 100, 50}, Rect{0, 50, 50, 50}};  // an L

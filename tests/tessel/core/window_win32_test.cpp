@@ -129,12 +129,12 @@ TEST(WindowWin32, PaintsThroughTheBackBufferWithGdiText) {
   DeleteObject(copy);
   DeleteDC(memory);
   EXPECT_EQ(pixels[25 * 320 + 25], surface.fill);
-  const auto near = [&](Color c) {
+  const auto isText = [&](Color c) {
     return std::abs(int(redOf(c)) - 250) + std::abs(int(greenOf(c)) - 200) +
                std::abs(int(blueOf(c)) - 40) <
            60;
   };
-  EXPECT_GT(std::count_if(pixels.begin(), pixels.end(), near), 40);
+  EXPECT_GT(std::count_if(pixels.begin(), pixels.end(), isText), 40);
 }
 
 }  // namespace
