@@ -42,22 +42,5 @@ TEST(BitmapButton, ClicksHitOnlyWhereTheImageIsOpaque) {
   EXPECT_TRUE(imageless.containsPoint(Point{3, 5}));
 }
 
-TEST(BitmapButton, AClickEmitsThenCallsOnClickedUnlessHandledOrDisabled) {
-  BitmapButton button = TwoStates();
-  std::wstring seen;
-  bool veto = false;
-  button.setOnClicked([&] { seen += L" clicked"; });
-  button.onCommand([&](CommandEvent& event) {
-    seen += event.command;
-    event.handled = veto;
-  });
-  button.clicked();
-  veto = true;
-  button.clicked();
-  button.setEnabled(false);
-  button.clicked();
-  EXPECT_EQ(seen, L"close clickedclose");
-}
-
 }  // namespace
 }  // namespace tessel

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
 #include <vector>
 
 #include "tests/tessel/controls/control_fixtures.h"
@@ -35,30 +34,6 @@ TEST(Card, ChildrenGoInThePaddedBodyBelowTheHeaderCutToShapeAndContour) {
   for (const Rect& region : regions)
     EXPECT_TRUE(region.x >= 12 && region.y >= 46 && region.right() <= 188 &&
                 region.bottom() <= 138);
-}
-
-TEST(Card, PressingTheHeaderEmitsTheDragCommandThenMovesTheWindow) {
-  CardStyle style = Style();
-  style.header.shape = ShapeKind::Capsule;
-  Card card(L"card", Rect{0, 0, 200, 150}, L"TITLE", style);
-  std::vector<std::wstring> seen;
-  const MoveRecorder moves(seen);
-  bool take = false;
-  card.onCommand([&](CommandEvent& event) {
-    seen.push_back(event.command + L"=" + event.value);
-    event.handled = take;
-  });
-  for (const Point at : {Point{100, 17}, Point{0, 0}, Point{100, 60}}) {  // capsule corner, body
-    card.setMousePosition(at);
-    card.mouseDown();
-  }
-  take = true;  // a handled drag doesn't move
-  card.setMousePosition(Point{100, 5});
-  card.mouseDown();
-  card.setHeaderDragEnabled(false);
-  card.mouseDown();
-  EXPECT_EQ(seen, (std::vector<std::wstring>{L"card.header-drag=header-drag", L"move card",
-                                             L"card.header-drag=header-drag"}));
 }
 
 }  // namespace

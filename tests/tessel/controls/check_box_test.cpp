@@ -4,7 +4,6 @@
 
 #include <vector>
 
-#include "tessel/skin/style_sheet.h"
 #include "tests/tessel/controls/control_fixtures.h"
 
 namespace tessel {
@@ -52,29 +51,6 @@ TEST(CheckBox, SpaceAndEnterWithoutCtrlOrAltToggle) {
     EXPECT_EQ(box.keyDown(c.key, c.ctrl, c.shift, c.alt, nullptr), c.consumed) << c.key;
     EXPECT_EQ(box.checked(), c.consumed) << c.key;
   }
-}
-
-TEST(CheckBox, StateRoundTripsSilentlyLongTextIsClippedAndASkinNeedsTheId) {
-  EXPECT_EQ(checkBoxRect(Rect{0, 0, 100, 10}, 18), (Rect{1, 0, 18, 18}));  // never above the top
-  CheckBox box = Make();
-  box.setChecked(true);
-  ControlState state;
-  box.captureState(state);
-  state.collapsed = true;
-  EXPECT_EQ(state.values, (std::vector<StateValue>{{L"checked", L"true"}}));
-  CheckBox restored = Make();
-  int events = 0;
-  restored.onValueChanged([&](ValueChangedEvent&) { ++events; });
-  restored.applyState(state, false);
-  EXPECT_TRUE(restored.checked() && restored.collapsed());
-  restored.applyExtraState({L"checked", L"0"});
-  EXPECT_FALSE(restored.checked());
-  EXPECT_EQ(events, 0);
-  // 26 pixels go to the box; 9 points estimate 6 pixels a character.
-  EXPECT_EQ(Make(L"REMEMBER ME", 26 + 30).clippedText(), L"REMEMBER ME");
-  EXPECT_EQ(Make(L"REMEMBER ME", 26 + 80).clippedText(), L"");
-  EXPECT_FALSE(applyStyleId(StyleSheet{Theme{}}, box, L"missing"));
-  EXPECT_TRUE(applyStyleId(StyleSheet{Theme{}}, box, L"default"));
 }
 
 }  // namespace

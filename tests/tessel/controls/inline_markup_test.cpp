@@ -45,22 +45,5 @@ TEST(InlineMarkup, ParsesSpansHeadingsAndLines) {
             L"T\nsee docs now c **");
 }
 
-TEST(InlineMarkup, SpanStylesFollowTheLook) {
-  TextStyle body;
-  body.pointSize = 10;
-  InlineMarkupLook look;
-  look.headingIncrements[1] = 3;
-  look.codeFont = L"Mono";
-  MarkupSpan code(L"x"), link(L"x");
-  code.code = link.link = true;
-  EXPECT_EQ(markupSpanStyle(body, look, 0, MarkupSpan(L"x")), body);
-  const TextStyle codeInHeading = markupSpanStyle(body, look, 2, code);
-  EXPECT_EQ(codeInHeading.fontFamily, L"Mono");
-  EXPECT_EQ(codeInHeading.pointSize, 13);
-  look.codePointSize = 7;
-  EXPECT_EQ(markupSpanStyle(body, look, 2, code).pointSize, 7);
-  EXPECT_TRUE(markupSpanStyle(body, look, 0, link).underline);
-}
-
 }  // namespace
 }  // namespace tessel

@@ -52,17 +52,6 @@ TEST(PanelLayout, ADialogThroughSeveralSizes) {
   }
 }
 
-TEST(PanelLayout, MinimumSizesFlowUp) {
-  Dialog dialog;
-  // The title: its design width plus both margins. The buttons: design position plus height.
-  EXPECT_EQ(dialog.root.minimumContentSizeHint(), (Size{400, 288}));
-  dialog.title->setMinimumSize(Size{100, 24});
-  dialog.ok->setCollapsed(true);
-  // The list: minimum 200 plus margins 20 + 20; 100 plus 44 above and 56 below.
-  EXPECT_EQ(dialog.root.minimumContentSizeHint(), (Size{240, 200}));
-  EXPECT_EQ(dialog.root.minimumSize(), (Size{400, 300}));  // never below its own design
-}
-
 TEST(PanelLayout, AnchorAndPlacementEdges) {
   using P = RelativePlacement;
   struct Case {

@@ -42,18 +42,5 @@ TEST(MinimumSize, ContentRaisesItWhenAutomaticAndTheDraggedEdgeStops) {
   }
 }
 
-TEST(WindowLimits, TheMonitorsWorkAreaCapsTheMinimum) {
-  const WindowLimits defaults{{1, 1}, {0, 0}, {120, 40}, {800, 600}};
-  // A small second monitor with the task bar on its left.
-  const Rect monitor{-1024, 0, 1024, 768};
-  const Rect work{-984, 0, 984, 768};
-  const WindowLimits limits = windowLimits(defaults, monitor, work, Size{1200, 300});
-  EXPECT_EQ(limits.maxSize, (Size{984, 768}));
-  EXPECT_EQ(limits.maxPosition, (Point{40, 0}));
-  EXPECT_EQ(limits.maxTrackSize, (Size{984, 768}));
-  EXPECT_EQ(limits.minTrackSize, (Size{984, 300}));
-  EXPECT_EQ(windowLimits(defaults, monitor, work, Size{}).minTrackSize, (Size{120, 40}));
-}
-
 }  // namespace
 }  // namespace tessel
