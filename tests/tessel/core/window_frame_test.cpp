@@ -20,6 +20,7 @@ TEST(FrameHitTest, CornersWinThenEdgesThenClient) {
 
 TEST(WindowPlacement, CentredOnTheOwnerOrTheWorkAreaAndKeptInsideIt) {
   const Rect work{1920, 40, 1280, 984};  // a second monitor below a top task bar
+  EXPECT_EQ(centreOnWorkArea(Size{400, 300}, work), (Rect{2360, 382, 400, 300}));
   EXPECT_EQ(centreOnWorkArea(Size{1500, 1200}, work), (Rect{1920, 40, 1500, 1200}));
   EXPECT_EQ(keepInsideWorkArea(Rect{3100, 900, 300, 200}, work), (Rect{2900, 824, 300, 200}));
   const Rect owner{2020, 140, 600, 400};
