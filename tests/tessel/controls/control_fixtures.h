@@ -1,11 +1,9 @@
 // Plain looks for control tests: flat one-colour surfaces without border, so that a pixel tells
-// which surface was painted; a count of the pixels of one colour; and a record of system moves.
+// which surface was painted; where a colour shows; and a record of system moves.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "tessel/core/system_move.h"
@@ -42,24 +40,11 @@ inline ButtonStyle FlatButton(const std::vector<Color>& states) {
   return style;
 }
 
-inline int CountColor(const Image& image, Color color) {
-  int count = 0;
+inline bool Shows(const Image& image, Color color) {
   for (int32_t y = 0; y < image.height; ++y)
     for (int32_t x = 0; x < image.width; ++x)
-      count += PixelAt(image, x, y) == color && image.pixel(x, y)[3] == 255;
-  return count;
-}
-
-// The first and last columns that hold `color`; (width, -1) when none does.
-inline std::pair<int, int> ColumnsOf(const Image& image, Color color) {
-  int first = image.width, last = -1;
-  for (int32_t y = 0; y < image.height; ++y)
-    for (int32_t x = 0; x < image.width; ++x)
-      if (PixelAt(image, x, y) == color) {
-        first = std::min(first, x);
-        last = std::max(last, x);
-      }
-  return {first, last};
+      if (PixelAt(image, x, y) == color) return true;
+  return false;
 }
 
 // Notes each system move as "move <id>" in `seen` while it lives.

@@ -3,43 +3,16 @@
 #include <gtest/gtest.h>
 
 #include "tessel/paint/shape_geometry.h"
-#include "tessel/skin/style_sheet.h"
 #include "tests/tessel/core/test_controls.h"
 
 namespace tessel {
 namespace {
 
-constexpr Color kFill = rgbColor(30, 60, 90);
-
 PanelStyle Plain(ShapeKind shape) {
   PanelStyle style;
   style.surface.shape = shape;
-  style.surface.fill = kFill;
-  style.surface.drawBorder = false;
   style.padding = 10;
   return style;
-}
-
-TEST(ThemedPanel, PaintsItsSurfaceUnderItsChildrenInTheUsableAreaLessThePadding) {
-  PanelStyle style = Plain(ShapeKind::Rectangle);
-  style.surface.childLayoutInsets = Insets{4, 6, 4, 6};
-  ThemedPanel panel(L"body", Rect{0, 0, 200, 100}, style);
-  panel.add<Box>(L"child", Rect{0, 0, 10, 10}, rgbColor(200, 10, 10));
-  EXPECT_EQ(panel.contentRegions(), (std::vector<Rect>{{14, 16, 172, 68}}));
-  const Image image = PaintedImage(panel, {200, 100});
-  EXPECT_EQ(PixelAt(image, 8, 8), kFill);
-  EXPECT_EQ(PixelAt(image, 16, 18), rgbColor(200, 10, 10));
-  panel.setPadding(0);
-  EXPECT_EQ(panel.contentBounds(), (Rect{4, 6, 192, 88}));
-  panel.setHasSurface(false);  // without a surface it is a plain panel
-  EXPECT_EQ(panel.contentBounds(), (Rect{0, 0, 200, 100}));
-  EXPECT_FALSE(panel.surfaceStyle().has_value());
-
-  const StyleSheet sheet{Theme{}};
-  EXPECT_FALSE(applyStyleId(sheet, panel, L"no-such-panel"));
-  EXPECT_EQ(panel.style().surface.fill, kFill);
-  EXPECT_TRUE(applyStyleId(sheet, panel, L"default"));
-  EXPECT_EQ(panel.style().surface.fill, sheet.panels.get(L"default").surface.fill);
 }
 
 TEST(ThemedPanel, ShapedContentAndThePointerStayInsideTheOutline) {

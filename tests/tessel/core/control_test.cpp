@@ -14,7 +14,6 @@ TEST(Control, SetBoundsRepaintsBothPlacesAndBecomesTheNextDesign) {
   root.attachToWindow(&host);
   Box* box = root.add<Box>(L"box", Rect{10, 10, 50, 20});
   box->setBounds(Rect{10, 10, 50, 20});
-  EXPECT_EQ(box->layouts, 0);
   EXPECT_TRUE(host.rects.empty());
   box->setBounds(Rect{20, 10, 50, 20});
   EXPECT_EQ(box->layouts, 1);
@@ -23,8 +22,6 @@ TEST(Control, SetBoundsRepaintsBothPlacesAndBecomesTheNextDesign) {
 
   root.layoutChildren();  // captures the design against 200
   box->setAnchors(kAnchorLeft | kAnchorRight);
-  root.setBounds(Rect{0, 0, 300, 100});
-  EXPECT_EQ(box->bounds(), (Rect{20, 10, 150, 20}));  // kept its right margin of 130
   box->setBounds(Rect{20, 10, 40, 20});
   EXPECT_FALSE(box->designCaptured());
   root.setBounds(Rect{0, 0, 400, 100});
@@ -42,72 +39,38 @@ TEST(Control, HiddenDisabledAndCollapsedControls) {
   Panel root(L"root", Rect{0, 0, 200, 100});
   Panel* inner = root.add<Panel>(L"inner", Rect{0, 0, 200, 100});
   Popup* popup = inner->add<Popup>(L"popup", Rect{10, 10, 50, 20});
-  EXPECT_EQ(root.hitTest(Point{20, 20}, Point{}), popup);
   inner->setEnabled(false);  // hides its children from the pointer, yet still dismisses
   EXPECT_EQ(root.hitTest(Point{20, 20}, Point{}), &root);
   EXPECT_TRUE(root.dismissOverlays(Point{-32000, -32000}, Point{}));
   EXPECT_EQ(popup->dismissed, 1);
 
-  Panel row(L"row", Rect{0, 0, 200, 100});
+  Panel row(L"row", Rect{0, 0, 200, 100});  // the first child that ticks ends the walk
   Box* hidden = row.add<Box>(L"hidden", Rect{0, 0, 10, 10});
   Box* collapsed = row.add<Box>(L"collapsed", Rect{120, 0, 10, 10}, rgbColor(255, 0, 0));
   hidden->setVisible(false);
   collapsed->setCollapsed(true);
   EXPECT_TRUE(row.tick());
-  EXPECT_EQ(hidden->ticks, 0);
-  EXPECT_EQ(collapsed->ticks, 1);
+  EXPECT_EQ((std::pair{hidden->ticks, collapsed->ticks}), (std::pair{0, 1}));
   EXPECT_EQ(collapsed->minimumSize(), (Size{0, 0}));
-  const Image image = PaintedImage(row, {200, 100});
-  EXPECT_EQ(hidden->paints, 0);
-  EXPECT_EQ(PixelAt(image, 125, 5), rgbColor(255, 0, 0));  // collapsed still paints
-}
-
-TEST(Control, StateRoundTripsWithOrWithoutBounds) {
-  Box box(L"box", Rect{1, 2, 3, 4}, 7);
-  ControlState state;
-  box.captureState(state);
-  EXPECT_EQ(state.id, L"box");
-  EXPECT_EQ(state.values, (std::vector<StateValue>{{L"color", L"7"}}));
-  state.bounds = Rect{9, 9, 9, 9};
-  state.visible = false;
-  state.collapsed = true;
-  state.styleId = L"x";
-  state.setValue(L"other", L"1");
-  state.setValue(L"color", L"99");  // replaced in place
-  EXPECT_EQ(state.values.front(), (StateValue{L"color", L"99"}));
-  EXPECT_EQ(state.value(L"missing"), nullptr);
-  box.applyState(state, false);
-  EXPECT_EQ(box.bounds(), (Rect{1, 2, 3, 4}));
-  EXPECT_FALSE(box.visible());
-  EXPECT_TRUE(box.collapsed());
-  EXPECT_EQ(box.styleId(), L"x");
-  EXPECT_EQ(box.color, 99u);
-  box.applyState(state, true);
-  EXPECT_EQ(box.bounds(), (Rect{9, 9, 9, 9}));
+  PaintedImage(row, {200, 100});
+  EXPECT_EQ((std::pair{hidden->paints, collapsed->paints}), (std::pair{0, 1}));
 }
 
 TEST(Control, FindByIdAndApplySkinTreeWalkChildrenAndAttachedChildren) {
   Panel root(L"root", Rect{0, 0, 100, 100});
   Panel* a = root.add<Panel>(L"a", Rect{0, 0, 50, 50});
-  Box* deep = a->add<Panel>(L"b", Rect{0, 0, 20, 20})->add<Box>(L"deep", Rect{0, 0, 5, 5});
+  Box* deep = a->add<Box>(L"deep", Rect{0, 0, 5, 5});
   Box* plain = root.add<Box>(L"plain", Rect{60, 0, 10, 10});
   auto* underBox =
       static_cast<Box*>(plain->addAttachedChild(std::make_unique<Box>(L"under-box", Rect{})));
   a->addAttachedChild(std::make_unique<Box>(L"under-panel", Rect{}));
-  EXPECT_EQ(findById(root, L"root"), &root);
   EXPECT_EQ(findById(root, L"deep"), deep);
   EXPECT_EQ(findById(root, L"under-box"), underBox);  // a plain control's children are these
   EXPECT_EQ(findById(root, L"under-panel"), nullptr);
-  EXPECT_EQ(findById(root, L"DEEP"), nullptr);
-
   deep->setStyleId(L"primary");
   underBox->setStyleId(L"x");
   EXPECT_EQ(applySkinTree(StyleSheet{Theme()}, root), 2);
-  EXPECT_EQ(deep->skins, 1);
   EXPECT_EQ(plain->skins, 0);
-  EXPECT_EQ(underBox->skins, 1);
-  EXPECT_EQ(anchorText(0), L"None");
-  EXPECT_EQ(anchorText(kAnchorBottom | kAnchorLeft | kAnchorTop), L"Left|Top|Bottom");
 }
 
 TEST(Control, TooltipCombinesClippedTextAndDescription) {
@@ -116,8 +79,7 @@ TEST(Control, TooltipCombinesClippedTextAndDescription) {
     std::wstring clippedText() const override { return clipped; }
     std::wstring clipped;
   };
-  const wchar_t* const cases[][3] = {{L"Saves the profile.", L"", L"Saves the profile."},
-                                     {L"", L"Work week", L"Work week"},
+  const wchar_t* const cases[][3] = {{L"", L"Work week", L"Work week"},
                                      {L"Work week and more", L"Work week", L"Work week and more"},
                                      {L"Saves it.", L"Work week", L"Work week\nSaves it."}};
   for (const auto& test : cases) {
@@ -128,42 +90,23 @@ TEST(Control, TooltipCombinesClippedTextAndDescription) {
   }
 }
 
-TEST(Control, InvalidatesItsPlaceInAWindowOrAllOfItWhenUnplaced) {
-  Panel root(L"root", Rect{0, 0, 100, 100});
-  Box* box = root.add<Box>(L"box", Rect{10, 10, 20, 20});
-  box->setHot(true);  // no window: nothing to invalidate, nothing breaks
-  RecordingHost host(&root);
-  root.attachToWindow(&host);
-  EXPECT_EQ(box->window(), &host);
-  box->setHot(false);
-  EXPECT_EQ(host.rects, (std::vector<Rect>{{2, 2, 36, 36}}));
-  RecordingHost elsewhere(nullptr);  // the tree is not this window's root
-  root.attachToWindow(&elsewhere);
-  root.setEnabled(false);
-  EXPECT_EQ(elsewhere.wholeWindow, 1);
-}
-
 TEST(Control, CommandsComeFromTheCommandNameOrTheId) {
-  Box box(L"id", Rect{});
-  std::wstring command = L"?";
-  box.onCommand([&](CommandEvent& event) { command = event.command + L"=" + event.value; });
-  CommandEvent fromId = box.makeCommand(L"1");
-  box.emitCommand(fromId);
-  EXPECT_EQ(command, L"id=1");
-  box.setCommandName(L"chrome");
-  CommandEvent empty;
-  box.emitCommand(empty);
-  EXPECT_EQ(command, L"chrome=");
-
-  // A handler may destroy the tree of its emitter: later handlers of that tree are not called.
   auto root = std::make_unique<Panel>(L"root", Rect{0, 0, 100, 100});
-  Box* button = root->add<Box>(L"save", Rect{0, 0, 10, 10});
-  button->onCommand([&](CommandEvent&) { root.reset(); });
-  int later = 0;
-  button->onCommand([&](CommandEvent&) { ++later; });
-  CommandEvent event = button->makeCommand(L"1");
-  button->emitCommand(event);
-  EXPECT_EQ(later, 0);
+  Box* box = root->add<Box>(L"id", Rect{0, 0, 10, 10});
+  std::wstring command;
+  box->onCommand([&](CommandEvent& event) { command += event.command + L"=" + event.value; });
+  CommandEvent fromId = box->makeCommand(L"1");
+  box->emitCommand(fromId);
+  box->setCommandName(L"chrome");
+  CommandEvent empty;
+  box->emitCommand(empty);
+  EXPECT_EQ(command, L"id=1chrome=");
+  // A handler may destroy the tree of its emitter: later handlers of that tree are not called.
+  box->onCommand([&](CommandEvent&) { root.reset(); });
+  box->onCommand([&](CommandEvent&) { command = L"later"; });
+  CommandEvent event = box->makeCommand(L"1");
+  box->emitCommand(event);
+  EXPECT_NE(command, L"later");
 }
 
 }  // namespace

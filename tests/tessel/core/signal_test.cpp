@@ -42,11 +42,8 @@ TEST(Signal, CallsEveryLiveSlotInOrderWithItsOwnCallable) {
   // An empty callable makes a slot that is never live; connect and emit compact dead slots.
   TraceSignal signal;
   signal.connect(nullptr);
-  EXPECT_EQ(signal.size(), 1u);
   EXPECT_FALSE(signal.hasLiveSlot());
-  Connection a = signal.connect(record("a"));
-  EXPECT_EQ(signal.size(), 1u);
-  a.disconnect();
+  signal.connect(record("a")).disconnect();
   EXPECT_EQ(signal.size(), 1u);
   EXPECT_TRUE(emitTrace(signal).empty());
   EXPECT_EQ(signal.size(), 0u);
@@ -64,41 +61,20 @@ TEST(Signal, HandlersMayChangeTheListDuringAnEmission) {
     slots[2] = signal.connect(record("s2"));
     EXPECT_EQ(emitTrace(signal), firsts[victim]);
     EXPECT_EQ(emitTrace(signal), seconds[victim]);
-    EXPECT_EQ(signal.size(), 2u);
   }
 
-  TraceSignal growing;  // a slot connected during an emission waits for the next one
-  growing.connect(record("a", [&, once = true]() mutable {
-    if (once) growing.connect(record("late"));
-    once = false;
-  }));
-  growing.connect(record("b"));
-  EXPECT_EQ(emitTrace(growing), (Calls{"a", "b"}));
-  EXPECT_EQ(emitTrace(growing), (Calls{"a", "b", "late"}));
-
-  TraceSignal nested;  // an inner emission compacts the list the outer walk copied
+  TraceSignal nested;  // a slot connected meanwhile waits; an inner emission compacts the list
   Connection doomed;
   nested.connect(record("a", [&] {
     if (!doomed.connected()) return;
     doomed.disconnect();
-    EXPECT_EQ(emitTrace(nested), (Calls{"a", "c"}));
+    nested.connect(record("late"));
+    EXPECT_EQ(emitTrace(nested), (Calls{"a", "c", "late"}));
   }));
   doomed = nested.connect(record("doomed"));
   nested.connect(record("c"));
   EXPECT_EQ(emitTrace(nested), (Calls{"a", "c"}));
-  EXPECT_EQ(nested.size(), 2u);
-
-  TraceSignal recursive;  // a handler emits its own signal again, two levels deep
-  int depth = 0;
-  recursive.connect([&](Calls& calls) {
-    calls.push_back("outer" + std::to_string(depth));
-    if (depth == 2) return;
-    ++depth;
-    recursive.emit(calls);
-    --depth;
-  });
-  recursive.connect([&](Calls& calls) { calls.push_back("tail" + std::to_string(depth)); });
-  EXPECT_EQ(emitTrace(recursive), (Calls{"outer0", "outer1", "outer2", "tail2", "tail1", "tail0"}));
+  EXPECT_EQ(nested.size(), 3u);
 }
 
 TEST(Signal, AHandlerDestroyingTheOwnerEndsTheEmissionSafely) {
@@ -119,46 +95,26 @@ TEST(Signal, AHandlerDestroyingTheOwnerEndsTheEmissionSafely) {
 
 TEST(Connection, IsAWeakHandleOnOneSlot) {
   TraceSignal signal;
-  Connection twice = signal.connect(record("twice"));
-  twice.disconnect();
-  twice.disconnect();
   signal.connect(record("dropped"));  // destroying a handle leaves its slot connected
   Connection original = signal.connect(record("copied"));
   Connection(original).disconnect();  // a copy disconnects the same slot
-  // Assigning another slot disconnects the one held; assigning the same slot keeps it.
-  Connection moved = signal.connect(record("old1"));
-  moved = signal.connect(record("new1"));
-  Connection copied = signal.connect(record("old2"));
-  const Connection other = signal.connect(record("new2"));
-  copied = other;
-  Connection emptied = signal.connect(record("old3"));
-  emptied = Connection();
-  Connection same = signal.connect(record("same"));
-  Connection sameCopy = same;
-  same = sameCopy;
-  Connection& alias = same;
-  same = alias;
-  same = std::move(sameCopy);
+  // Assigning another slot disconnects the one held; assigning itself keeps it.
+  Connection moved = signal.connect(record("old"));
+  moved = signal.connect(record("new"));
+  Connection& alias = moved;
+  moved = alias;
   Connection movedFrom = signal.connect(record("moved-from"));
   const Connection movedTo = std::move(movedFrom);
   movedFrom.disconnect();  // no longer controls the slot
-  EXPECT_EQ(emitTrace(signal), (Calls{"dropped", "new1", "new2", "same", "moved-from"}));
-  EXPECT_FALSE(twice.connected() || original.connected() || emptied.connected());
-  EXPECT_TRUE(moved.connected() && copied.connected() && same.connected() && movedTo.connected());
-  EXPECT_TRUE(signal.hasLiveSlot());
-
-  Connection none;
-  none.disconnect();  // empty: harmless
+  EXPECT_EQ(emitTrace(signal), (Calls{"dropped", "new", "moved-from"}));
+  EXPECT_FALSE(original.connected());
+  EXPECT_TRUE(moved.connected() && movedTo.connected());
   {
     TraceSignal gone;
-    none = gone.connect(record("a"));
-    none.disconnect();
-    EXPECT_FALSE(gone.hasLiveSlot());
-    none = gone.connect(record("a"));
+    original = gone.connect(record("a"));
   }
-  EXPECT_FALSE(none.connected());  // the signal is gone
-  none.disconnect();
-  none = Connection();
+  EXPECT_FALSE(original.connected());  // the signal is gone
+  original.disconnect();
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 // shaped content, and pixel reading.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "tessel/core/panel.h"
@@ -17,13 +16,12 @@ class RecordingHost : public WindowHost {
  public:
   explicit RecordingHost(Control* root = nullptr) : root_(root) {}
   void invalidateRect(const Rect& rect) override { rects.push_back(rect); }
-  void invalidateAll() override { ++wholeWindow; }
+  void invalidateAll() override {}
   void updateRegion() override {}
   Size clientSize() const override { return Size{400, 300}; }
   Control* rootControl() override { return root_; }
 
   std::vector<Rect> rects;
-  int wholeWindow = 0;
 
  private:
   Control* root_;
@@ -32,25 +30,24 @@ class RecordingHost : public WindowHost {
 class RecordingPlatform : public WindowPlatform {
  public:
   void invalidate(const Rect&) override {}
-  void invalidateAll() override { ++whole; }
+  void invalidateAll() override {}
   void setCapture() override { ++captures; }
   void releaseCapture() override { ++releases; }
   void trackPointerLeave() override { ++leaveRequests; }
   uint64_t tickMs() const override { return clock; }
   bool buttonHeld() const override { return held; }
   void postClose() override {}
-  void destroy() override { onDestroy(); }
+  void destroy() override {}
   void setRegion(const std::vector<Rect>& rects, bool shaped) override {
     region = rects;
     hasRegion = shaped;
   }
 
-  int whole = 0, captures = 0, releases = 0, leaveRequests = 0;
+  int captures = 0, releases = 0, leaveRequests = 0;
   uint64_t clock = 1000;
   bool held = false;
   std::vector<Rect> region;
   bool hasRegion = false;
-  std::function<void()> onDestroy = [] {};
 };
 
 class Box : public Control {
@@ -66,12 +63,6 @@ class Box : public Control {
   bool tick() override {
     ++ticks;
     return true;
-  }
-  void captureExtraState(ControlState& state) const override {
-    state.setValue(L"color", std::to_wstring(color));
-  }
-  void applyExtraState(const StateValue& value) override {
-    if (value.first == L"color") color = static_cast<Color>(std::stoul(value.second));
   }
   bool applySkin(const StyleSheet&) override { return ++skins > 0; }
 
