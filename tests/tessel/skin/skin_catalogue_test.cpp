@@ -19,15 +19,15 @@ TEST(LoadSkinFolder, LoadsFilesInOrderAndLaterSkinsReplaceEarlierOnes) {
                       ("stayhold_skins_" + std::to_string(std::random_device()()));
   const std::pair<const char*, std::string> kFiles[] = {
       {"90-my-skin.json", SkinJson("mine", "Mine")},
-      {"00-base.json",
-       "[" + SkinJson("a", "A") + "," + SkinJson("b", "B") + "," + SkinJson("A", "Again") + "]"},
+      {"00-base.json", std::string("[") + SkinJson("a", "A") + "," + SkinJson("b", "B") + "," +
+                           SkinJson("A", "Again") + "]"},
       {"SKIN.JSON", SkinJson("upper", "Upper")},
       {"50-later.json", SkinJson("B", "Later")},
       {"skin.json.bak", SkinJson("backup", "Backup")},
       {"sub/05-sub.json", SkinJson("sub", "Sub")},
-      {"a.json", "{\"skins\":[" + SkinJson("good", "Good") + ",{\"id\":\"bad\"}]}"},
+      {"a.json", std::string("{\"skins\":[") + SkinJson("good", "Good") + ",{\"id\":\"bad\"}]}"},
       {"c.json", "[{\"id\":\"x\",\"name\":\"\xC3\"}]"},
-      {"e.json", "\xEF\xBB\xBF" + SkinJson("bom", "Bom")}};
+      {"e.json", std::string("\xEF\xBB\xBF") + SkinJson("bom", "Bom")}};
   for (const auto& [name, text] : kFiles) {
     std::filesystem::create_directories((folder / name).parent_path());
     std::ofstream(folder / name, std::ios::binary) << text;
