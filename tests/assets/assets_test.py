@@ -53,9 +53,13 @@ def read_png(data):
     return width, height, rows
 
 
-def alphas(name):
+def image(name):
     with open(os.path.join(SOURCE_DIR, "assets", name), "rb") as f:
-        return [px[3] for row in read_png(f.read())[2] for px in row]
+        return read_png(f.read())
+
+
+def alphas(name):
+    return [px[3] for row in image(name)[2] for px in row]
 
 
 class Images(unittest.TestCase):
@@ -71,26 +75,17 @@ class Images(unittest.TestCase):
             for name in sorted(EXPECTED):
                 with open(os.path.join(out, name), "rb") as fresh, \
                         open(os.path.join(assets, name), "rb") as committed:
-                    self.assertTrue(fresh.read() == committed.read(),
-                                    f"{name} differs from what make_assets.py draws; regenerate "
-                                    "with `python3 assets/make_assets.py assets`")
+                    self.assertTrue(fresh.read() == committed.read(), f"{name} differs from what "
+                                    "make_assets.py draws; regenerate with it")
 
-    def test_format_size_and_transparency(self):
-        for name, size in sorted(EXPECTED.items()):
-            with self.subTest(image=name), open(os.path.join(SOURCE_DIR, "assets", name), "rb") as f:
-                width, height, rows = read_png(f.read())
-                self.assertEqual((width, height), size)
-                a = [px[3] for row in rows for px in row]
-                self.assertIn(0, a, "some pixels fully transparent")
-                self.assertTrue(any(a), "something drawn")
-                if not name.endswith("_disabled.png"):
-                    self.assertIn(255, a, "the glyph itself is opaque")
-
-    def test_states(self):
+    def test_format_size_transparency_and_states(self):
         # Disabled is fainter; under the pointer the button gains a plate that covers more.
         for base in BASES:
             normal = alphas(base + ".png")
             with self.subTest(base=base):
+                self.assertEqual(image(base + "_pressed.png")[:2], EXPECTED[base + ".png"])
+                self.assertIn(0, normal, "some pixels fully transparent")
+                self.assertIn(255, normal, "the glyph itself is opaque")
                 self.assertLessEqual(max(alphas(base + "_disabled.png")), min(max(normal) - 1, 127))
                 for state in ("_hot", "_pressed"):
                     covered = alphas(base + state + ".png")
@@ -101,8 +96,8 @@ class Images(unittest.TestCase):
         # The title bar draws the image centred in its button, so the glyph must be centred in
         # the image: equal side margins, and at most one pixel between top and bottom.
         for base in (b for b in BASES if "_chrome_" in b):
-            with self.subTest(base=base), open(os.path.join(SOURCE_DIR, "assets", base + ".png"), "rb") as f:
-                width, height, rows = read_png(f.read())
+            with self.subTest(base=base):
+                width, height, rows = image(base + ".png")
                 xs = [x for y in range(height) for x in range(width) if rows[y][x][3]]
                 ys = [y for y in range(height) for x in range(width) if rows[y][x][3]]
                 self.assertEqual(min(xs), width - 1 - max(xs))

@@ -186,46 +186,23 @@ TEST(LoadConfig, TheStoredSkinIsRepairedAmongTheGivenSkinsAndSavedSo) {
 TEST(LoadConfig, WindowValuesBlankAreDroppedBadAreDefaulted) {
   MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}},
                                  {L"profile0",
-                                  {{L"name", L" Night "},
+                                  {{L"name", L" " + std::wstring(5000, L'n')},
                                    {L"windows_count", L"4"},
                                    {L"window0", L"garbage"},
                                    {L"window1", L"   "},
                                    {L"window2", L"7,9,9999,-5"}}}});
   const StayholdConfig config = LoadConfig();
   ASSERT_EQ(config.profiles.size(), 1u);
-  EXPECT_EQ(config.profiles[0].name, L"Night");
-  ASSERT_EQ(config.profiles[0].windows.size(), 2u);  // window1 blank, window3 missing
+  EXPECT_EQ(config.profiles[0].name, std::wstring(4094, L'n'));  // cut to 4095, then trimmed
+  ASSERT_EQ(config.profiles[0].windows.size(), 2u);              // window1 blank, window3 missing
   EXPECT_TRUE(config.profiles[0].windows[0] == (RestartWindow{true, 0, 780, 1020}));
   EXPECT_TRUE(config.profiles[0].windows[1] == (RestartWindow{true, 6, 1439, 0}));
 }
 
-TEST(LoadConfig, LongProfileNameIsCut) {
-  MemoryStore().Put(Path(), File{{L"profiles", {{L"count", L"1"}}},
-                                 {L"profile0", {{L"name", std::wstring(5000, L'n')}}}});
-  EXPECT_EQ(LoadConfig().profiles[0].name.size(), 4095u);
-}
-
 TEST(LoadConfig, DamagedCountsAndIndices) {
-  // The file, then the profiles read, the active index and the first profile's windows.
-  const std::tuple<const char*, File, size_t, int, size_t> cases[] = {
-      {"count beyond the sections gives unnamed empty profiles",
-       {{L"profiles", {{L"count", L"3"}, {L"active_index", L"2"}}},
-        {L"profile0", {{L"name", L"A"}, {L"windows_count", L"1"}, {L"window0", L"1,1,1,2"}}}},
-       3,
-       2,
-       1},
-      {"negative windows count reads as none",
-       {{L"profiles", {{L"count", L"1"}}}, {L"profile0", {{L"windows_count", L"-4"}}}},
-       1,
-       0,
-       0},
-      {"negative profile count takes the legacy branch",
-       {{L"profiles", {{L"count", L"-2"}}},
-        {L"windows", {{L"count", L"1"}, {L"item0", L"0,3,0,60"}}}},
-       1,
-       0,
-       1}};
-  for (const auto& [what, file, profiles, active, first_windows] : cases) {
+  // The profiles read, the active index and the first profile's windows from the file.
+  const auto check = [](const char* what, const File& file, size_t profiles, int active,
+                        size_t first_windows) {
     ResetFakePlatform();
     MemoryStore().Put(Path(), file);
     const StayholdConfig config = LoadConfig();
@@ -233,7 +210,17 @@ TEST(LoadConfig, DamagedCountsAndIndices) {
     EXPECT_EQ(config.active_profile_index, active) << what;
     ASSERT_FALSE(config.profiles.empty()) << what;
     EXPECT_EQ(config.profiles[0].windows.size(), first_windows) << what;
-  }
+  };
+  check("count beyond the sections gives unnamed empty profiles",
+        {{L"profiles", {{L"count", L"3"}, {L"active_index", L"2"}}},
+         {L"profile0", {{L"name", L"A"}, {L"windows_count", L"1"}, {L"window0", L"1,1,1,2"}}}},
+        3, 2, 1);
+  check("negative windows count reads as none",
+        {{L"profiles", {{L"count", L"1"}}}, {L"profile0", {{L"windows_count", L"-4"}}}}, 1, 0, 0);
+  check("negative profile count takes the legacy branch",
+        {{L"profiles", {{L"count", L"-2"}}},
+         {L"windows", {{L"count", L"1"}, {L"item0", L"0,3,0,60"}}}},
+        1, 0, 1);
 }
 
 TEST(LoadConfig, AnExistingFileIsNotRewrittenEvenWithANegativeProfileCount) {
@@ -245,15 +232,12 @@ TEST(LoadConfig, AnExistingFileIsNotRewrittenEvenWithANegativeProfileCount) {
   }
 }
 
-TEST(LoadConfig, AFolderInThePlaceOfTheFileGivesDefaultsAndTheSaveFails) {
-  Fake().directories.insert(Path());
+TEST(SaveConfig, FailsWithoutAFileOrAFolderForIt) {
+  Fake().directories.insert(Path());  // a folder in the place of the file
   const StayholdConfig config = LoadConfig();
-  EXPECT_TRUE(config.guard_enabled);
-  EXPECT_EQ(config.profiles.size(), 1u);
+  EXPECT_TRUE(config.guard_enabled && config.profiles.size() == 1);
   EXPECT_FALSE(SaveConfig(config));
-}
-
-TEST(SaveConfig, FailsWhenTheFolderCannotBeMade) {
+  ResetFakePlatform();
   Fake().directories_fail = true;
   EXPECT_FALSE(SaveConfig(StayholdConfig{}));
   EXPECT_EQ(MemoryStore().writes, 0);
@@ -316,22 +300,9 @@ TEST(SaveConfig, RoundTripKeepsEverything) {
 }
 
 TEST(UiState, ReadRules) {
-  // The window's section, the control sections, whether a state is read and its controls.
-  const std::tuple<const char*, MemoryProfileStore::Section, File, bool, size_t> cases[] = {
-      {"no schema means no state", {{L"window_width", L"800"}}, {}, false, 0},
-      {"a size makes a state", {{L"schema_version", L"1"}, {L"window_height", L"5"}}, {}, true, 0},
-      {"nothing positive, no control",
-       {{L"schema_version", L"1"}, {L"window_width", L"-5"}},
-       {},
-       false,
-       0},
-      {"a kept control alone makes a state; others and missing sections are dropped",
-       {{L"schema_version", L"1"}, {L"control_count", L"4"}},
-       {{L"ui_state.settings.control0", {{L"id", L"settings-window-name"}}},
-        {L"ui_state.settings.control1", {{L"id", L"settings-window-scroll"}}}},
-       true,
-       1}};
-  for (const auto& [what, window, controls, present, kept] : cases) {
+  // Whether a state is read and its controls, from the window's and the controls' sections.
+  const auto check = [](const char* what, bool present, size_t kept,
+                        const MemoryProfileStore::Section& window, const File& controls) {
     ResetFakePlatform();
     File file{{L"ui_state.settings", window}};
     file.insert(file.end(), controls.begin(), controls.end());
@@ -339,7 +310,15 @@ TEST(UiState, ReadRules) {
     const std::optional<WindowUiState> state = ReadUiState(MemoryStore(), Path());
     EXPECT_EQ(state.has_value(), present) << what;
     EXPECT_EQ(state ? state->controls.size() : 0u, kept) << what;
-  }
+  };
+  check("no schema means no state", false, 0, {{L"window_width", L"800"}}, {});
+  check("a size makes a state", true, 0, {{L"schema_version", L"1"}, {L"window_height", L"5"}}, {});
+  check("nothing positive, no control", false, 0,
+        {{L"schema_version", L"1"}, {L"window_width", L"-5"}}, {});
+  check("a kept control alone makes a state; others and missing sections are dropped", true, 1,
+        {{L"schema_version", L"1"}, {L"control_count", L"4"}},
+        {{L"ui_state.settings.control0", {{L"id", L"settings-window-name"}}},
+         {L"ui_state.settings.control1", {{L"id", L"settings-window-scroll"}}}});
 }
 
 TEST(UiState, WritingReplacesOldControlSectionsAndTouchesNothingElse) {

@@ -15,7 +15,6 @@ UpdateManifest Manifest(const wchar_t* version) {
 
 TEST(TrayTooltipText, AKnownUpdateReplacesTheStatusAndNamesItsVersionWhenKnown) {
   const GuardStatus blocking{true, true, false, L"P", L""};
-  EXPECT_EQ(TrayTooltipText(blocking, std::nullopt), L"Stayhold: blocking planned restarts");
   EXPECT_EQ(TrayTooltipText(blocking, Manifest(L"2.0")),
             L"Update available 2.0 - open tray menu and choose Update.");
   EXPECT_EQ(FormatUpdateTooltip(Manifest(L"")),
@@ -27,9 +26,8 @@ TEST(TrayTooltipText, AKnownUpdateReplacesTheStatusAndNamesItsVersionWhenKnown) 
 }
 
 TEST(FitToField, CutsSilentlyToTheFieldNeverSplittingACharacter) {
-  const std::pair<size_t, size_t> sizes[] = {{300, 127}, {127, 127}, {5, 5}};
-  for (const auto& [length, kept] : sizes)
-    EXPECT_EQ(FitToField(std::wstring(length, L'x'), 128), std::wstring(kept, L'x')) << length;
+  EXPECT_EQ(FitToField(std::wstring(300, L'x'), 128), std::wstring(127, L'x'));
+  EXPECT_EQ(FitToField(std::wstring(127, L'x'), 128), std::wstring(127, L'x'));
   EXPECT_EQ(FitToField(L"abc", 0), L"");
   std::wstring text(126, L'a');
   // With 16-bit text the emoji's pair would straddle the cut and is dropped whole; with 32-bit

@@ -53,13 +53,11 @@ class ReleaseManifest(unittest.TestCase):
 
     def test_refusals(self):
         out = os.path.join(self.dir, "x.json")
-        self.assertNotEqual(run("--setup", os.path.join(self.dir, "missing.exe"), "--version", "1.0",
-                                "--setup-url", "https://e/x.exe", "--out", out).returncode, 0)
-        self.assertNotEqual(run("--setup", self.setup, "--version", "beta", "--setup-url",
-                                "https://e/x.exe", "--out", out).returncode, 0)
-        self.assertNotEqual(run("--setup", self.setup, "--version", "1.0", "--setup-url",
-                                "ftp://e/x.exe", "--out", out).returncode, 0)
-
+        for setup, version, url in ((os.path.join(self.dir, "missing.exe"), "1.0", "https://e/x"),
+                                    (self.setup, "beta", "https://e/x"),
+                                    (self.setup, "1.0", "ftp://e/x")):
+            result = run("--setup", setup, "--version", version, "--setup-url", url, "--out", out)
+            self.assertNotEqual(result.returncode, 0, (setup, version, url))
 
 if __name__ == "__main__":
     unittest.main()
