@@ -19,10 +19,6 @@ TEST(TrayTooltipText, AKnownUpdateReplacesTheStatusAndNamesItsVersionWhenKnown) 
             L"Update available 2.0 - open tray menu and choose Update.");
   EXPECT_EQ(FormatUpdateTooltip(Manifest(L"")),
             L"Update available - open tray menu and choose Update.");
-  AppConfig().language = L"cs-CZ";
-  EXPECT_EQ(FormatUpdateTooltip(Manifest(L"1.2.0")),
-            L"K dispozici je aktualizace 1.2.0 - otevřete nabídku v oznamovací oblasti a zvolte "
-            L"Aktualizovat.");
 }
 
 TEST(FitToField, CutsSilentlyToTheFieldNeverSplittingACharacter) {
