@@ -42,7 +42,6 @@ TEST(FindInstallDirArgument, ReadsTheArgumentAfterTheOption) {
        L""},
       {"option as the last argument", {L"setup.exe", L"--install", L"--install-dir"}, L""},
       {"argument 0 is not searched", {L"--install-dir", L"C:\\A", L"B"}, L""},
-      {"a value with -- inside", {L"s", L"--install-dir", L"C:\\a--b"}, L"C:\\a--b"},
       {"single dash value", {L"s", L"--install-dir", L"-x"}, L"-x"}};
   for (const auto& [what, arguments, folder] : cases)
     EXPECT_EQ(FindInstallDirArgument(arguments), folder) << what;
@@ -58,7 +57,6 @@ TEST(ChooseStartupRole, ChecksRunInTheirFixedOrder) {
       {L"--repair --install", true, Install},
       {L"--uninstall --repair", true, Repair},
       {L"--uninstall --quiet", true, Uninstall},
-      {L"--exit-after-ms=1000 --repair", true, Repair},
       // The application refuses every setup action, before anything else.
       {L"--install", false, RefuseSetupAction},
       {L"--ensure-config --repair", false, RefuseSetupAction},
