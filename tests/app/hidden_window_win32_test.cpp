@@ -77,7 +77,15 @@ TEST_F(HiddenWindowTest, BlockReasonLivesExactlyWhileBlocking) {
   Send(WM_TIMER, kTimerStart);
   const std::wstring create = L"create " + Cell(3);
   ASSERT_EQ(observed.calls, std::vector<std::wstring>{create});
+  // A refusal shows the warning notification; a sign-out passes without one.
+  observed.notify.clear();
   EXPECT_EQ(Query(0), FALSE);
+  ASSERT_EQ(observed.notify.size(), 1u);
+  EXPECT_EQ(observed.notify[0].dwInfoFlags, static_cast<DWORD>(NIIF_WARNING));
+  EXPECT_EQ(observed.notify[0].szInfoTitle, Cell(194));
+  EXPECT_EQ(observed.notify[0].szInfo, Cell(195));
+  EXPECT_EQ(Query(ENDSESSION_LOGOFF), TRUE);
+  EXPECT_EQ(observed.notify.size(), 1u);
 
   // Every refresh takes the reason down and registers it again.
   Send(WM_TIMER, kTimerRefresh);
@@ -94,20 +102,6 @@ TEST_F(HiddenWindowTest, BlockReasonLivesExactlyWhileBlocking) {
   EXPECT_EQ(observed.calls.back(), L"destroy");
   EXPECT_FALSE(BlockReasonHeld());
   EXPECT_EQ(observed.notify_messages.back(), static_cast<DWORD>(NIM_DELETE));
-}
-
-TEST_F(HiddenWindowTest, RefusalShowsTheWarningNotification) {
-  Send(WM_TIMER, kTimerStart);
-  observed.notify.clear();
-  EXPECT_EQ(Query(0), FALSE);
-  ASSERT_EQ(observed.notify.size(), 1u);
-  const NOTIFYICONDATAW& balloon = observed.notify[0];
-  EXPECT_EQ(balloon.dwInfoFlags, static_cast<DWORD>(NIIF_WARNING));
-  EXPECT_EQ(balloon.szInfoTitle, Cell(194));
-  EXPECT_EQ(balloon.szInfo, Cell(195));
-  // A sign-out passes without a notification.
-  EXPECT_EQ(Query(ENDSESSION_LOGOFF), TRUE);
-  EXPECT_EQ(observed.notify.size(), 1u);
 }
 
 TEST_F(HiddenWindowTest, TrayIconIsAddedInTheLanguageAndAgainForANewTaskbar) {
