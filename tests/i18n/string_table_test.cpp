@@ -59,19 +59,6 @@ TEST(Localized, RowCellsByLanguageAndFallBacksWithoutARow) {
   }
 }
 
-TEST(Localized, RowsWithADoubledBackslashAreNeverFound) {
-  // The call sites pass a single backslash, so these rows fall back to the pair itself.
-  const wchar_t* cs =
-      L"Výchozí cesta je C:\\Program Files\\Stayhold. Můžete ji změnit na jinou složku.";
-  const wchar_t* en =
-      L"The default path is C:\\Program Files\\Stayhold. You can change it to another folder.";
-  EXPECT_EQ(FindStringRow(cs), nullptr);
-  UseLanguageSetting(L"de-DE");
-  EXPECT_EQ(Localized(cs, en), en);
-  UseLanguageSetting(L"cs-CZ");
-  EXPECT_EQ(Localized(cs, en), cs);
-}
-
 TEST(FindStringRow, FirstRowWithTheKeyWinsByExactComparison) {
   // "Desktop shortcut" stands twice (rows 39 and 68).
   EXPECT_EQ(FindStringRow(kStringTable[68].key), &kStringTable[39]);

@@ -2,11 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "guard/guard_state.h"
-#include "i18n/language.h"
-#include "i18n/string_table.h"
-#include "tests/support/fake_platform.h"
-
 UpdateManifest Manifest(const wchar_t* version) {
   UpdateManifest manifest;
   manifest.version = version;
@@ -30,12 +25,4 @@ TEST(FitToField, CutsSilentlyToTheFieldNeverSplittingACharacter) {
   // text the emoji is one unit and fits.
   text += sizeof(wchar_t) == 2 ? L"\xD83D\xDE00" : L"\U0001F600b";
   EXPECT_EQ(FitToField(text, 128), text.substr(0, sizeof(wchar_t) == 2 ? 126 : 127));
-
-  AppConfig().language = L"ta-IN";
-  const GuardStatus window{true, false, true, L"P",
-                           L"\x0BB5\x0BC6\x0BB3\x0BCD\x0BB3\x0BBF 22:00-02:00 (overnight)"};
-  const std::wstring tip = FitToField(TrayTooltipText(window, std::nullopt), 128);
-  EXPECT_LE(tip.size(), 127u);
-  EXPECT_TRUE(tip.starts_with(
-      std::wstring(kStringTable[26].cells[LanguageColumnIndex(L"ta")]).substr(0, 5)));
 }
