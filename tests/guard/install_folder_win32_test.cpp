@@ -36,7 +36,6 @@ TEST(ResolveInstallFolder, ReadsTheRealRegistry) {
       {"the product key, normalized", REG_SZ, L"D:/Apps/Stayhold/", nullptr, L"D:\\Apps\\Stayhold"},
       {"a number is ignored, the uninstall entry serves", REG_DWORD, L"", L"E:\\Tools\\",
        L"E:\\Tools"},
-      {"an empty value does not count", REG_SZ, L"", nullptr, fallback},
       {"an expandable value is not expanded", REG_EXPAND_SZ, L"C:\\%STAYHOLD_NOT_EXPANDED%\\App",
        nullptr, L"C:\\%STAYHOLD_NOT_EXPANDED%\\App"},
       // The value does not fit the 260-character buffer; the query fails and the next key serves.

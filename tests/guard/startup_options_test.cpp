@@ -4,15 +4,13 @@
 
 TEST(ParseExitAfterMs, AcceptsOneToTenMinutesOnly) {
   const std::pair<const wchar_t*, uint32_t> cases[] = {
-      {L"1", 1},          {L"600000", 600000}, {L"600001", 0}, {L"0", 0},
-      {L"-5", 0},         {L"abc", 0},         {L"", 0},       {L"99999999999999", 0},
-      {L"4294967297", 0}, {L"250ms", 250},     {L" 42", 42}};  // wcstol skips white space before
-                                                               // the number
+      {L"1", 1}, {L"600000", 600000}, {L"600001", 0},  {L"0", 0},   {L"-5", 0},
+      {L"", 0},  {L"4294967297", 0},  {L"250ms", 250}, {L" 42", 42}};  // wcstol skips white space
+                                                                       // before the number
   for (const auto& [value, ms] : cases)
     EXPECT_EQ(ParseExitAfterMs(std::wstring(L"--exit-after-ms=") + value), ms) << value;
   EXPECT_EQ(ParseExitAfterMs(L"\"C:\\x--exit-after-ms=900\\Stayhold.exe\""), 900u);
   EXPECT_EQ(ParseExitAfterMs(L"--EXIT-AFTER-MS=500"), 0u);
-  EXPECT_EQ(ParseExitAfterMs(L""), 0u);
 }
 
 TEST(ParseStartupOptions, SubstringSearchWithItsQuirks) {
@@ -43,9 +41,7 @@ TEST(FindInstallDirArgument, ReadsTheArgumentAfterTheOption) {
        {L"s", L"--install-dir", L"--x", L"--install-dir", L"E:"},
        L""},
       {"option as the last argument", {L"setup.exe", L"--install", L"--install-dir"}, L""},
-      {"fewer than three arguments", {L"setup.exe", L"--install-dir"}, L""},
       {"argument 0 is not searched", {L"--install-dir", L"C:\\A", L"B"}, L""},
-      {"a value with -- inside", {L"s", L"--install-dir", L"C:\\a--b"}, L"C:\\a--b"},
       {"single dash value", {L"s", L"--install-dir", L"-x"}, L"-x"}};
   for (const auto& [what, arguments, folder] : cases)
     EXPECT_EQ(FindInstallDirArgument(arguments), folder) << what;
@@ -61,12 +57,8 @@ TEST(ChooseStartupRole, ChecksRunInTheirFixedOrder) {
       {L"--repair --install", true, Install},
       {L"--uninstall --repair", true, Repair},
       {L"--uninstall --quiet", true, Uninstall},
-      {L"--ensure-config", true, SetupDialog},
-      {L"--exit-after-ms=1000 --repair", true, Repair},
       // The application refuses every setup action, before anything else.
       {L"--install", false, RefuseSetupAction},
-      {L"--repair", false, RefuseSetupAction},
-      {L"--uninstall", false, RefuseSetupAction},
       {L"--ensure-config --repair", false, RefuseSetupAction},
       {L"--ensure-config", false, EnsureConfig},
       {L"--settings", false, Guard}};

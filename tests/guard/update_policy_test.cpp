@@ -67,7 +67,6 @@ TEST(LogWindowsUpdatePolicyStatus, StrictOnlyWhileNothingAllowsAForcedRestart) {
   // A value changed from what was written (the deadline in the other key), and the verdict.
   const std::tuple<const char*, const wchar_t*, FakeMachineRegistry::Value, bool> cases[] = {
       {"as written", L"SetComplianceDeadline", {true, 0}, true},
-      {"deadline deleted by hand", L"SetComplianceDeadline", {false, 0}, true},
       {"a compliance deadline", L"SetComplianceDeadline", {true, 1}, false},
       {"AUOptions 4", L"AUOptions", {true, 4}, false},
       {"NoAutoUpdate as text counts as absent", L"NoAutoUpdate", {false, 1}, true},

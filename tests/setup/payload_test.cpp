@@ -37,7 +37,6 @@ TEST(PackageCachePath, VersionAndFileName) {
   EXPECT_EQ(PackageCachePath(L"C:\\D\\Stayhold", L"1.0.112", L"installer/x/"),
             L"C:\\D\\Stayhold\\setup-msi-cache\\1.0.112-Stayhold.msi");
   EXPECT_EQ(PayloadFileName(L"a/b\\c.json"), L"c.json");
-  EXPECT_EQ(PayloadFileName(L"plain.msi"), L"plain.msi");
 }
 
 TEST(SetupSkinCacheFolder, LocalAppDataElseTemporaryFolder) {

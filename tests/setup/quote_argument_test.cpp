@@ -39,17 +39,6 @@ std::wstring ParseFirstArgument(const std::wstring& line) {
   return out;
 }
 
-TEST(QuoteArgument, ExactForms) {
-  const std::pair<const wchar_t*, const wchar_t*> cases[] = {
-      {L"", L"\"\""},
-      {L"C:\\Program Files\\Stayhold", L"\"C:\\Program Files\\Stayhold\""},
-      {L"C:\\Stayhold\\", L"\"C:\\Stayhold\\\\\""},  // a trailing backslash is doubled
-      {L"say \"hi\"", L"\"say \\\"hi\\\"\""},
-      {L"a\\\"b", L"\"a\\\\\\\"b\""}};
-  for (const auto& [text, quoted] : cases)
-    EXPECT_EQ(QuoteArgument(text), quoted) << text;
-}
-
 TEST(QuoteArgument, RoundTripsThroughTheArgumentRules) {
   for (const wchar_t* text : {L"", L"a b", L"\\", L"\\\\", L"\"", L"a\\\\\"b", L"tab\there",
                               L"x\\\\y\\", L"\"\"\"", L"\\\\server\\share\\dir\\", L"ends\""}) {

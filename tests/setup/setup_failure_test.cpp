@@ -24,7 +24,6 @@ TEST(MsiLogExcerpt, FirstFourMatchingLinesCutTo220) {
 
 TEST(MsiLogExcerpt, CasesOfMatchingAndDecoding) {
   const std::tuple<const char*, std::string, const wchar_t*> cases[] = {
-      {"mixed case keeps its own case", "x\nSome ErRoR: here\n", L"Some ErRoR: here"},
       {"error followed by a blank", "MSI Error 1603 happened", L"MSI Error 1603 happened"},
       {"errors without blank or colon do not count", "errors\nerror-prone\n", L""},
       {"return value 1 does not count", "Return value 1.", L""},
@@ -37,23 +36,17 @@ TEST(MsiLogExcerpt, CasesOfMatchingAndDecoding) {
 }
 
 TEST(FriendlyTexts, KnownCodesAndPhasesInBothLanguagesOthersFallBack) {
-  EXPECT_EQ(FriendlyMsiExitText(408, false),
-            L"The install did not finish before the timeout. Check for UAC, another installer, "
-            L"or antivirus scanning.");
-  EXPECT_EQ(FriendlyMsiExitText(3010, true), L"Podrobnější příčina je v MSI logu uvedeném níže.");
   for (unsigned long code : {5ul, 408ul, 1603ul, 1618ul, 1619ul, 1638ul}) {
     EXPECT_NE(FriendlyMsiExitText(code, false), FriendlyMsiExitText(0, false)) << code;
     EXPECT_NE(FriendlyMsiExitText(code, true), FriendlyMsiExitText(0, true)) << code;
   }
-  EXPECT_EQ(FriendlyPhaseText(L"remove-existing", false), L"removing the previous MSI install");
   EXPECT_EQ(FriendlyPhaseText(L"extract-msi", true), L"rozbalení vestavěného MSI balíčku");
   EXPECT_EQ(FriendlyPhaseText(L"install-windows-update-policy", true),
             L"install-windows-update-policy");
   EXPECT_EQ(FriendlyPhaseText(L"", false), L"unknown step");
-  EXPECT_EQ(FriendlyPhaseText(L"", true), L"neznámá fáze");
 }
 
-TEST(AppendSetupFailureDetails, TheFullMsiExampleInBothLanguages) {
+TEST(AppendSetupFailureDetails, TheFullMsiExample) {
   RecordMsiFailure(L"install", 1603, L"C:\\L\\msi-install-7-9.log",
                    "a\nMSI (s) Error: file locked\nb\n");
   EXPECT_EQ(Fake().log, std::vector<std::wstring>{L"setup MSI failure phase=install exit=1603 "
@@ -64,14 +57,6 @@ TEST(AppendSetupFailureDetails, TheFullMsiExampleInBothLanguages) {
                 FriendlyMsiExitText(1603, false) +
                 L"\n\nMSI log excerpt:\nMSI (s) Error: file locked\n\nMSI log: "
                 L"C:\\L\\msi-install-7-9.log\nApplication log: " +
-                kAppLog);
-  AppConfig().language = L"cs-CZ";
-  EXPECT_EQ(AppendSetupFailureDetails(L"Instalace selhala."),
-            L"Instalace selhala.\n\nCo selhalo: instalace aplikace přes Windows Installer\nMSI "
-            L"kód: 1603\n" +
-                FriendlyMsiExitText(1603, true) +
-                L"\n\nŘádky z MSI logu:\nMSI (s) Error: file locked\n\nMSI log: "
-                L"C:\\L\\msi-install-7-9.log\nLog aplikace: " +
                 kAppLog);
 }
 

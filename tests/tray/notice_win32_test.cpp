@@ -13,25 +13,20 @@
 namespace {
 
 // Waits on another thread for the notice titled `title`, then does `act` to it.
-class NoticeDriver {
- public:
+struct NoticeDriver {
   NoticeDriver(const wchar_t* title, std::function<void(HWND)> act)
-      : thread_([this, title, act] {
-          for (int i = 0; i < 400 && !found_; ++i) {
+      : thread([this, title, act] {
+          for (int i = 0; i < 400 && !found; ++i) {
             if (HWND hwnd = FindWindowW(L"TesselDesignWindow", title)) {
-              found_ = true;
+              found = true;
               act(hwnd);
-              return;
             }
             Sleep(25);
           }
         }) {}
-  ~NoticeDriver() { thread_.join(); }
-  bool found() const { return found_; }
-
- private:
-  std::atomic<bool> found_{false};
-  std::thread thread_;
+  ~NoticeDriver() { thread.join(); }
+  std::atomic<bool> found{false};
+  std::thread thread;
 };
 
 void Key(HWND hwnd, WPARAM key) {
@@ -57,7 +52,7 @@ TEST(NoticeWin32, AnErrorNoticeIsTheLargerWindow) {
     Key(hwnd, VK_RETURN);
   });
   ShowInstallerNotice(GetModuleHandleW(nullptr), L"Setup failed", L"Details of the failure", true);
-  ASSERT_TRUE(driver.found());
+  ASSERT_TRUE(driver.found);
   EXPECT_EQ(client.right, 760);
   EXPECT_EQ(client.bottom, 430);
 }

@@ -18,7 +18,7 @@ UpdateManifest Manifest(const wchar_t* version, const wchar_t* sha256,
 struct ScriptedServices final : UpdateInstallServices {
   UpdateCheckResult fresh{false, true, true, Manifest(L"1.0.120", L"ABCDEF"), L""};
   bool download_ok = true, hash_ok = true, launch_ok = true;
-  std::wstring download_error, hash = L"ABCDEF";
+  std::wstring hash = L"ABCDEF";
   std::vector<int> download_progress = {10, 45, 80, 82};
   std::shared_ptr<UpdateInstallState> state = std::make_shared<UpdateInstallState>();
   std::vector<int> progress;  // every change the dialog was told of
@@ -33,7 +33,7 @@ struct ScriptedServices final : UpdateInstallServices {
     events.push_back(L"download " + url + L" -> " + target);
     for (int p : download_progress)
       report(p);
-    error = download_error;
+    error = L"Setup download returned HTTP status 500.";
     return download_ok;
   }
   bool HashFileSha256(const std::wstring& path, std::wstring& hex, std::wstring& error) override {
@@ -55,18 +55,27 @@ struct ScriptedServices final : UpdateInstallServices {
 };
 
 TEST(RunStayholdAutoUpdate, HappyPathInItsExactOrder) {
+  // A download of unknown length shows no movement between its ends; an unchanged manifest
+  // is not logged.
+  ScriptedServices unknown_length;
+  unknown_length.download_progress = {82};
+  unknown_length.Run(Manifest(L"1.0.120", L"ABCDEF"));
+  EXPECT_EQ(unknown_length.progress, (std::vector<int>{3, 8, 82, 86, 94, 100}));
+  EXPECT_TRUE(Fake().log.empty());
+  // The refreshed manifest replaces the cached one; its hash compares without case.
   ScriptedServices services;
-  services.fresh.manifest.sha256 = L"abcdef";  // the hash compares without case
+  services.fresh.manifest = Manifest(L"1.0.121", L"abcdef", L"https://h/new.exe");
   services.Run(Manifest(L"1.0.120", L"ABCDEF"));
   EXPECT_TRUE(services.state->finished && services.state->succeeded && services.state->close_app);
   EXPECT_EQ(services.state->status, kRunning);
   EXPECT_EQ(services.progress, (std::vector<int>{3, 8, 10, 45, 80, 82, 86, 94, 100}));
-  const std::wstring setup = L"C:\\Temp\\StayholdSetup-1.0.120.exe";
-  EXPECT_EQ(services.events,
-            (std::vector<std::wstring>{L"download https://h/StayholdSetup.exe -> " + setup,
-                                       L"hash " + setup, L"launch " + setup}));
+  const std::wstring setup = L"C:\\Temp\\StayholdSetup-1.0.121.exe";
+  EXPECT_EQ(services.events, (std::vector<std::wstring>{L"download https://h/new.exe -> " + setup,
+                                                        L"hash " + setup, L"launch " + setup}));
   EXPECT_EQ(services.published, 1);
-  EXPECT_TRUE(Fake().log.empty());  // nothing changed in the refreshed manifest
+  EXPECT_EQ(Fake().log,
+            std::vector<std::wstring>{L"update install manifest refreshed: cached=1.0.120 "
+                                      L"latest=1.0.121 setup_or_hash_changed"});
 }
 
 TEST(RunStayholdAutoUpdate, EndingsOfEveryStep) {
@@ -85,12 +94,8 @@ TEST(RunStayholdAutoUpdate, EndingsOfEveryStep) {
        true, L"The app is current according to the fresh manifest.", L"", false, 100},
       {"no setup_url", [](ScriptedServices& s) { s.fresh.manifest.setup_url.clear(); }, false,
        L"Update failed.", L"The manifest does not contain setup_url.", false, 8},
-      {"download failed",
-       [](ScriptedServices& s) {
-         s.download_ok = false;
-         s.download_error = L"Setup download returned HTTP status 500.";
-       },
-       false, L"Download failed.", L"Setup download returned HTTP status 500.", false, 82},
+      {"download failed", [](ScriptedServices& s) { s.download_ok = false; }, false,
+       L"Download failed.", L"Setup download returned HTTP status 500.", false, 82},
       {"hash could not be computed", [](ScriptedServices& s) { s.hash_ok = false; }, false,
        L"Verification failed.", L"SHA-256 provider could not be opened.", false, 86},
       {"wrong hash never launches", [](ScriptedServices& s) { s.hash = L"000000"; }, false,
@@ -105,44 +110,24 @@ TEST(RunStayholdAutoUpdate, EndingsOfEveryStep) {
       {"the elevation was refused", [](ScriptedServices& s) { s.launch_ok = false; }, false,
        L"Setup could not be started.", L"Silent setup could not be started.", true, 94}};
   for (const auto& [what, script, succeeded, status, detail, launched, progress] : cases) {
+    SCOPED_TRACE(what);
     ScriptedServices services;
     script(services);
     services.Run(Manifest(L"1.0.120", L"ABCDEF"));
     const UpdateInstallState& state = *services.state;
-    EXPECT_TRUE(state.finished) << what;
-    EXPECT_EQ(state.succeeded, succeeded) << what;
-    EXPECT_EQ(state.status, status) << what;
-    EXPECT_EQ(state.detail, detail) << what;
-    EXPECT_EQ(!services.events.empty() && services.events.back().starts_with(L"launch"), launched)
-        << what;
-    EXPECT_EQ(state.close_app, launched && succeeded) << what;
-    EXPECT_EQ(state.progress, progress) << what;
-    EXPECT_EQ(services.published, 1) << what;  // the tray follows the fresh truth regardless
+    EXPECT_TRUE(state.finished);
+    EXPECT_EQ(state.succeeded, succeeded);
+    EXPECT_EQ(state.status, status);
+    EXPECT_EQ(state.detail, detail);
+    EXPECT_EQ(!services.events.empty() && services.events.back().starts_with(L"launch"), launched);
+    EXPECT_EQ(state.close_app, launched && succeeded);
+    EXPECT_EQ(state.progress, progress);
+    EXPECT_EQ(services.published, 1);  // the tray follows the fresh truth regardless
   }
 }
 
-TEST(RunStayholdAutoUpdate, UnknownLengthShowsNoMovementInTheDownload) {
-  ScriptedServices services;
-  services.download_progress = {82};
-  services.Run(Manifest(L"1.0.120", L"ABCDEF"));
-  EXPECT_EQ(services.progress, (std::vector<int>{3, 8, 82, 86, 94, 100}));
-}
-
-TEST(RunStayholdAutoUpdate, ARefreshedManifestReplacesTheCachedOneAndIsLogged) {
-  ScriptedServices services;
-  services.fresh.manifest = Manifest(L"1.0.121", L"ABCDEF", L"https://h/new.exe");
-  services.Run(Manifest(L"1.0.120", L"abcdef"));
-  EXPECT_EQ(services.events.front(),
-            L"download https://h/new.exe -> C:\\Temp\\StayholdSetup-1.0.121.exe");
-  EXPECT_EQ(Fake().log,
-            std::vector<std::wstring>{L"update install manifest refreshed: cached=1.0.120 "
-                                      L"latest=1.0.121 setup_or_hash_changed"});
-}
-
 TEST(UpdateInstallHelpers, PercentProgressParametersAndPath) {
-  EXPECT_EQ(DownloadPercent(0, 1000), 10);
   EXPECT_EQ(DownloadPercent(500, 1000), 45);
-  EXPECT_EQ(DownloadPercent(3000, 1000), 220);  // a short length overshoots; the state clamps
   EXPECT_EQ(DownloadPercent(4000000000u, 4000000000u), 80);  // 64-bit multiplication
   ScriptedServices services;
   SetUpdateProgress(*services.state, services, 220, L"x");

@@ -5,8 +5,6 @@
 #include "update/update_manifest.h"
 
 TEST(AvailableUpdate, StoresCopiesAndClears) {
-  StoreAvailableUpdate(std::nullopt);
-  EXPECT_FALSE(GetAvailableUpdate().has_value());
   UpdateManifest manifest;
   manifest.version = L"1.0.200";
   StoreAvailableUpdate(manifest);

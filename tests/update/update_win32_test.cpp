@@ -8,7 +8,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <iterator>
+#include <string>
 
 #include "update/http_get_win32.h"
 #include "update/update_check.h"
@@ -29,44 +30,30 @@ std::wstring Http(const wchar_t* path) {
 
 TEST(FetchUpdateManifest, OutcomesOverRealHttp) {
   ASSERT_FALSE(Env(L"STAYHOLD_TEST_HTTP").empty()) << "run through update_scenario.sh";
-  const std::tuple<const wchar_t*, bool, bool, const wchar_t*, const wchar_t*> cases[] = {
-      {L"/newer.json", true, true, L"1.0.999", L""},
-      {L"/equal.json", true, false, L"1.0.112", L""},
-      {L"/older.json", true, false, L"1.0.99", L""},
-      {L"/short.json", true, false, L"1.0", L""},
-      {L"/history_first.json", true, true, L"1.0.500", L""},
-      {L"/invalid.json", false, false, L"", L"Update manifest is not valid UTF-8."},
-      {L"/empty.json", false, false, L"", L"Update manifest does not contain a version."},
-      {L"/status/404", false, false, L"", L"Update manifest returned HTTP status 404."}};
-  for (const auto& [path, ok, available, version, error] : cases) {
-    const UpdateCheckResult result = CheckForUpdateAt(Http(path), true);
-    EXPECT_EQ(result.ok, ok) << path;
-    EXPECT_EQ(result.update_available, available) << path;
-    EXPECT_EQ(result.manifest.version, version) << path;
-    EXPECT_EQ(result.error, error) << path;
+  const std::tuple<std::wstring, bool, const wchar_t*, const wchar_t*> cases[] = {
+      {Http(L"/newer.json"), true, L"1.0.999", L""},
+      {Env(L"STAYHOLD_TEST_HTTPS") + L"/newer.json", true, L"1.0.999", L""},  // trusted loopback
+      {Http(L"/invalid.json"), false, L"", L"Update manifest is not valid UTF-8."},
+      {Http(L"/status/404"), false, L"", L"Update manifest returned HTTP status 404."},
+      {L"http://127.0.0.1:" + Env(L"STAYHOLD_TEST_CLOSED_PORT") + L"/x.json", false, L"",
+       L"Update manifest request failed."},
+      {L"no url at all", false, L"", L"WinHTTP cannot parse update URL."}};
+  for (const auto& [url, ok, version, error] : cases) {
+    SCOPED_TRACE(url);
+    const UpdateCheckResult result = CheckForUpdateAt(url, true);
+    EXPECT_EQ(result.ok, ok);
+    EXPECT_EQ(result.update_available, ok);
+    EXPECT_EQ(result.manifest.version, version);
+    EXPECT_EQ(result.error, error);
   }
   const UpdateCheckResult versions = CheckForUpdateAt(Http(L"/versions.json"), false);
-  ASSERT_EQ(versions.manifest.history.size(), 2u);
-  EXPECT_EQ(versions.manifest.history[0].version, L"1.0.150");
   EXPECT_EQ(versions.manifest.changes_cs, L"\u010Cesk\u00E1 pozn\u00E1mka");  // UTF-8 decoded
-  EXPECT_EQ(versions.manifest.changes, L"literal u0041");                     // \u is not decoded
-  const UpdateCheckResult https =
-      CheckForUpdateAt(Env(L"STAYHOLD_TEST_HTTPS") + L"/newer.json", true);
-  EXPECT_TRUE(https.ok) << "a trusted loopback certificate: " << https.error;
-  EXPECT_EQ(https.manifest.version, L"1.0.999");
 }
 
-TEST(FetchUpdateManifest, RefusedConnectionAndStall) {
-  std::wstring text, error;
-  EXPECT_FALSE(FetchUpdateManifest(
-      L"http://127.0.0.1:" + Env(L"STAYHOLD_TEST_CLOSED_PORT") + L"/x.json", text, error));
-  EXPECT_EQ(error, L"Update manifest request failed.");
-  EXPECT_FALSE(FetchUpdateManifest(L"no url at all", text, error));
-  EXPECT_EQ(error, L"WinHTTP cannot parse update URL.");
-
-  // A server that accepts and then stalls. Windows ends the wait at the (here injected, short)
-  // receive limit; Wine 8 does not enforce it and waits for the server to close after 4 s.
-  // Either way the request fails with the request text and well before the production limit.
+TEST(HttpGet, AStalledServerFailsTheRequest) {
+  // Windows ends the wait at the injected receive limit; Wine 8 waits until the server closes
+  // after 4 s. Either way the request fails, well before the production limit.
+  std::wstring error;
   const HttpGetTexts texts = {L"parse", L"request failed", L"status ", L"query", L"read"};
   HttpGetLimits limits;
   limits.receive_ms = 1500;
@@ -88,21 +75,14 @@ TEST(HashFileSha256, MatchesTheSumComputedOutside) {
   EXPECT_EQ(error, L"Downloaded setup could not be opened for hash check.");
 }
 
-// The command line the stand-in setup records.
-std::filesystem::path SetupRecordPath() {
-  return std::filesystem::temp_directory_path() / L"stayhold_fake_setup_args.txt";
-}
-
+// The command line the stand-in setup records, once it has written it.
 std::string SetupRecord() {
-  std::ifstream file(SetupRecordPath(), std::ios::binary);
-  std::stringstream text;
-  text << file.rdbuf();
-  return text.str();
-}
-
-void WaitForSetupRecord() {
-  for (int i = 0; i < 100 && SetupRecord().empty(); ++i)
-    Sleep(50);
+  std::string text;
+  for (int i = 0; i < 100 && text.empty(); ++i, Sleep(50)) {
+    std::ifstream file(std::filesystem::temp_directory_path() / L"stayhold_fake_setup_args.txt");
+    text.assign(std::istreambuf_iterator<char>(file), {});
+  }
+  return text;
 }
 
 // The real services, with every progress report recorded.
@@ -115,7 +95,6 @@ class RecordingServices final : public UpdateInstallServices {
   }
   std::shared_ptr<UpdateInstallState> state = std::make_shared<UpdateInstallState>();
   std::vector<int> progress;
-  bool launched = false;
 
   UpdateCheckResult RefreshManifest() override { return real_.RefreshManifest(); }
   void PublishCheckResult(const UpdateCheckResult& r) override { real_.PublishCheckResult(r); }
@@ -128,13 +107,11 @@ class RecordingServices final : public UpdateInstallServices {
     return real_.HashFileSha256(path, hex, error);
   }
   bool LaunchSilentSetup(const std::wstring& path, std::wstring& error) override {
-    launched = true;
-    std::error_code ignored;
-    std::filesystem::remove(
-        std::filesystem::temp_directory_path() / L"stayhold_fake_setup_args.txt", ignored);
+    std::filesystem::remove(std::filesystem::temp_directory_path() /
+                            L"stayhold_fake_setup_args.txt");
     const bool ok = real_.LaunchSilentSetup(path, error);
     // Let the stand-in finish, so that the next download may overwrite its file.
-    if (ok) WaitForSetupRecord();
+    if (ok) SetupRecord();
     Sleep(200);
     return ok;
   }
@@ -151,17 +128,12 @@ TEST(RunStayholdAutoUpdate, DownloadsVerifiesAndStartsTheSetupSilently) {
   RecordingServices services(L"/install.json");  // lower-case sha256 in the manifest
   EXPECT_TRUE(services.state->succeeded) << services.state->detail;
   EXPECT_TRUE(services.state->close_app);
+  // The real download reports steps between 8 and 82; the rest is the worker's, tested natively.
   const std::vector<int>& progress = services.progress;
   ASSERT_GE(progress.size(), 7u);
-  EXPECT_EQ(progress[0], 3);
-  EXPECT_EQ(progress[1], 8);
   EXPECT_TRUE(std::is_sorted(progress.begin(), progress.end()));
-  EXPECT_EQ(std::vector<int>(progress.end() - 4, progress.end()),
-            (std::vector<int>{82, 86, 94, 100}));
-  // The download spans 10 to 80.
   EXPECT_GE(progress[2], 10);
   EXPECT_LE(progress[progress.size() - 5], 80);
-  WaitForSetupRecord();
   const std::string record = SetupRecord();
   EXPECT_TRUE(
       record.ends_with("--install --quiet --preserve-options --restart-app --settings "
@@ -169,31 +141,14 @@ TEST(RunStayholdAutoUpdate, DownloadsVerifiesAndStartsTheSetupSilently) {
       << record;
 }
 
-TEST(RunStayholdAutoUpdate, EndingsOverRealHttp) {
-  const std::tuple<const wchar_t*, bool, const wchar_t*, const wchar_t*, bool> cases[] = {
-      {L"/install_wrong_hash.json", false, L"Verification failed.",
-       L"The downloaded setup SHA-256 does not match the manifest.", false},
-      {L"/released.json", true,
-       L"Setup is running silently. The app will close and reopen after installation.", L"", true},
-      {L"/install_no_hash.json", true,
-       L"Setup is running silently. The app will close and reopen after installation.", L"", true},
-      {L"/withdrawn.json", true, L"The app is current according to the fresh manifest.", L"",
-       false},
-      {L"/install_missing_setup.json", false, L"Download failed.",
-       L"Setup download returned HTTP status 404.", false}};
-  for (const auto& [manifest, succeeded, status, detail, launched] : cases) {
-    RecordingServices services(manifest);
-    EXPECT_EQ(services.state->succeeded, succeeded) << manifest;
-    EXPECT_EQ(services.state->status, status) << manifest;
-    EXPECT_EQ(services.state->detail, detail) << manifest;
-    EXPECT_EQ(services.launched, launched) << manifest;
-  }
-}
-
-TEST(RunStayholdAutoUpdate, UnknownLengthShowsNoMovementBetween10And82) {
-  RecordingServices services(L"/install_no_length.json");
-  EXPECT_TRUE(services.state->succeeded) << services.state->detail;
-  EXPECT_EQ(services.progress, (std::vector<int>{3, 8, 82, 86, 94, 100}));
+// The real download's own endings; the other endings are the worker's, tested natively.
+TEST(RunStayholdAutoUpdate, AMissingSetupFailsAnUnknownLengthShowsNoMovement) {
+  RecordingServices missing(L"/install_missing_setup.json");
+  EXPECT_EQ(missing.state->detail, L"Setup download returned HTTP status 404.");
+  EXPECT_FALSE(missing.state->succeeded);
+  RecordingServices unknown(L"/install_no_length.json");
+  EXPECT_TRUE(unknown.state->succeeded) << unknown.state->detail;
+  EXPECT_EQ(unknown.progress, (std::vector<int>{3, 8, 82, 86, 94, 100}));
 }
 
 }  // namespace
