@@ -60,13 +60,10 @@ bool Write(const JsonValue& value, std::wstring& out) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
   std::wstring text;
-  if (!WideFromUtf8Strict(bytes, text)) {
-    text.clear();  // not UTF-8: take the bytes as code units, as a damaged file might arrive
-    for (const char c : bytes)
-      text += static_cast<wchar_t>(static_cast<unsigned char>(c));
-  }
+  // Not UTF-8: the bytes as code units, as a damaged file might arrive.
+  if (!WideFromUtf8Strict(std::string(reinterpret_cast<const char*>(data), size), text))
+    text.assign(data, data + size);
   JsonValue value;
   if (!tessel::parseJsonText(text, value)) return 0;
 

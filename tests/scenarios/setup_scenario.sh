@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# The setup program from the command line under Wine's own msiexec: install with and without
-# choices, a repair that restores a deleted file, an install while the installed guard runs, a
-# failing install with its exit code, and the uninstall that keeps the user's data.
+# The setup program from the command line under Wine's own msiexec: installs, repairs, failures
+# with their exit codes, and the uninstall that keeps the user's data.
 . "$(dirname "$0")/../wine/harness.sh"
 harness_start setup
 WINE_TIMEOUT=200
@@ -70,9 +69,8 @@ link_exists "$DESKTOP" || fail "no desktop shortcut with --desktop"
 startup_link && fail "a Startup shortcut with --no-startup"
 setup_exits 0 --uninstall
 link_exists "$DESKTOP" && fail "the desktop shortcut was left behind"
-# Wine's msiexec finds a custom folder again only through the package's search of
-# InstallLocation, which the uninstall deletes first; Windows keeps the folder in its own
-# records. So whether C:\X\Stayhold.exe goes is not asserted here.
+# Wine's msiexec finds a custom folder only by the package's search of InstallLocation, which the
+# uninstall deletes first (Windows keeps it), so whether C:\X\Stayhold.exe goes is not asserted.
 
 echo "--- a failing Windows Installer run gives exit code 4 and its diagnosis in the log"
 setup_exits 4 --install --install-dir 'Q:\no\such\drive'
@@ -81,7 +79,9 @@ expect_log "MSI install failed"
 
 echo "--- a repair whose Windows Installer run fails ends with exit code 5"
 setup_exits 0 --install
+# The repair takes its folder from InstallLocation: the edit must have taken.
 wine_exe reg add "$KEY" /v InstallLocation /d 'Q:\nowhere' /f >/dev/null
+[ "$(reg_value "$KEY" InstallLocation)" = 'Q:\nowhere' ] || fail "InstallLocation not changed"
 setup_exits 5 --repair
 expect_log "MSI repair failed"
 

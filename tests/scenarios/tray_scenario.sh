@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
-# The guard's face in the notification area: the icon appears, a right click opens the menu and
-# its items carry out their commands, a left click asks for the settings, and the Startup item
-# really creates the shortcut.
+# The guard's face in the notification area: the icon, the menu's commands (the Startup item
+# really makes the shortcut), and a left click that asks for the settings.
 . "$(dirname "$0")/../wine/harness.sh"
 harness_start tray
 

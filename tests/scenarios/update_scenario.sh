@@ -1,8 +1,6 @@
 #!/usr/bin/env bash
-# The self-update against loopback servers (HTTP and HTTPS with a certificate the test makes and
-# trusts inside Wine): manifests of every kind, the receive time-out, the download with its
-# progress, SHA-256 and the silent launch of a stand-in setup that records its command line.
-# Nothing leaves 127.0.0.1.
+# The self-update tests against HTTP and HTTPS servers on 127.0.0.1 (a certificate made here and
+# trusted inside Wine), with every kind of manifest and a stand-in setup that records its start.
 . "$(dirname "$0")/../wine/harness.sh"
 harness_start update
 
