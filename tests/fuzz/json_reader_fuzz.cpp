@@ -1,6 +1,5 @@
-// Feeds arbitrary skin files to the JSON reader. It must never crash or read out of bounds; every
-// document it accepts, written out canonically (one text per tree) and read again, gives the same
-// canonical text, and its flattened keys are all normalized.
+// Feeds arbitrary skin files to the JSON reader: no crash, no read out of bounds; an accepted
+// document written canonically reads back to the same text, and its flattened keys are normalized.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>

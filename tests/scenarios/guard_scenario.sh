@@ -23,7 +23,6 @@ write_config() {
 # A guard whose first refresh has run (past its 500 ms start timer).
 start_protecting() { start_guard 45000 && sleep 1; }
 
-echo "--- a first start creates config.ini in UTF-16"
 [ -e "$CONFIG" ] && fail "config.ini exists before the first start"
 win_exit_code 60000 "$APP" --exit-after-ms=45000 >"$SUITE_DIR/guard.code" &
 guard_pid=$!
@@ -32,11 +31,9 @@ grep -qx 'result=1' <<<"$first" || fail "a query in the first moments was refuse
 after=$(sed -n 's/^after_found_ms=//p' <<<"$first")
 [ "${after:-999}" -lt 400 ] || fail "the early query was answered only ${after} ms after the window appeared"
 [ "$(head -c 2 "$CONFIG" | od -An -tx1 | tr -d ' ')" = fffe ] || fail "config.ini is not UTF-16LE with BOM"
-expect_config '[general]' 'guard_enabled=1' 'language=auto' 'skin_id=win11-auto' \
-  'ui_performance_profile=balanced' '[profiles]' 'count=1' 'active_index=0' '[profile0]' \
-  'name=' 'windows_count=0'
+expect_config '[general]' 'guard_enabled=1' '[profiles]' 'count=1' 'active_index=0' '[profile0]' \
+  'windows_count=0'
 
-echo "--- after the first refresh a planned restart is refused"
 sleep 1
 # Which queries pass the Windows suite proves; here each refusal, and only a refusal, is logged.
 expect_query 0 0 "plain shutdown"
@@ -44,7 +41,6 @@ expect_query 0x80000000 1 "sign-out"
 expect_query 0x00000001 0 "close-app"
 expect_blocked 2 "not one 'planned shutdown/restart blocked' line per refusal"
 
-echo "--- Wine's own end-of-session request is refused and the guard survives"
 status=$(wine_exe wineboot --end-session >/dev/null 2>&1; echo $?)
 [ "$status" = 1 ] || fail "wineboot --end-session exited $status, expected 1 (refused)"
 window_up || fail "the guard did not survive the refused end of session"
@@ -53,7 +49,6 @@ expect_blocked 3 "the end-of-session refusal was not logged"
 stop_guard
 expect_log "app shutdown"
 
-echo "--- restart windows of the active profile follow the clock"
 now_day=$(($(date +%u) - 1))
 now_min=$((10#$(date +%H) * 60 + 10#$(date +%M)))
 if [ "$now_min" -ge 1430 ]; then
@@ -72,7 +67,6 @@ for case in "open:1,$now_day,$from,$to:1" "other-day:1,$(((now_day + 3) % 7)),$f
   stop_guard
 done
 
-echo "--- an older configuration is migrated at the first start"
 write_config '[general]' 'manual_blocking_enabled=0' '[windows]' 'count=2' 'item0=1,4,780,1020' 'item1='
 start_protecting
 expect_query 0 1 "guard off by the legacy switch"
@@ -80,7 +74,6 @@ stop_guard
 expect_config 'guard_enabled=0' 'count=1' 'windows_count=1' 'window0=1,4,780,1020' 'name='
 config_text | grep -E '^(\[windows\]|manual_blocking_enabled=)' && fail "a legacy entry survived"
 
-echo "--- the tray switch turns protection off and on; each save keeps names in every script"
 names=('Pracovní týden' '週末の設定' 'العمل' 'Night 🌙 Ωμέγα')
 write_config '[general]' 'guard_enabled=1' '[profiles]' 'count=4' 'active_index=0' \
   '[profile0]' "name=${names[0]}" '[profile1]' "name=${names[1]}" '[profile2]' "name=${names[2]}" \
@@ -96,11 +89,9 @@ done
 stop_guard
 expect_config "${names[@]/#/name=}"
 
-echo "--- --ensure-config writes the configuration and ends"
 rm -f "$CONFIG"
 code=$(win_exit_code 20000 "$APP" --ensure-config)
 [ "$code" = 0 ] || fail "--ensure-config exited $code"
 config_has 'count=1' || fail "--ensure-config wrote no configuration"
 window_up && fail "--ensure-config started the guard"
 
-echo "guard scenario: all checks passed"

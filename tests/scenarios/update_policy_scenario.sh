@@ -19,15 +19,12 @@ expect_line() {
   [ "$got" = "$want" ] || fail "policy line '$got', expected '$want'"
 }
 
-echo "--- a fresh machine has none of the values"
 expect_line not-strict '<missing>' '<missing>' '<missing>' '<missing>' '<missing>'
 # The status comes after "app startup" and before anything else of the run.
 grep -A1 '  app startup$' "$LOG" | tail -n 1 | grep -qF "$HEAD" || fail "status line not right after app startup"
 
-echo "--- after the writer ran, the next start logs strict"
 WINE_TIMEOUT=120 wine_exe "$STAYHOLD_BUILD/tests/stayhold_win32_tests.exe" \
   --gtest_filter=WindowsUpdatePolicy.ApplyWritesEveryValueAndReadsBackStrict >/dev/null ||
   fail "the policy writer test failed"
 expect_line strict 0 3 1 0 0
 
-echo "update policy scenario: all checks passed"

@@ -13,8 +13,7 @@ WINE_TIMEOUT=${WINE_TIMEOUT:-60}
 APP="$STAYHOLD_BUILD/Stayhold.exe"
 _xvfb_pid="" _wineserver_pid=""
 
-# A display number of its own, chosen at random: suites start and end side by side, and a number
-# just given up by one suite's server is not handed to the next.
+# A random display number: suites run side by side, and a number just freed must not be reused.
 _start_xvfb() {
   [ -n "${DISPLAY:-}" ] && return 0
   local fifo candidate number
@@ -107,8 +106,7 @@ win_exit_code() {
   shift
   out=$(wintool run "$limit" "$@")
   case "$out" in
-    exit=*) echo "${out#exit=}" ;;
-    timeout) echo timeout ;;
+    exit=* | timeout) echo "${out#exit=}" ;;
     "") echo "no-answer" ;;  # the helper itself was ended, as at a suite's clean-up
     *) fail "could not start $* ($out)" ;;
   esac

@@ -12,8 +12,6 @@ import time
 
 
 class Handler(http.server.BaseHTTPRequestHandler):
-    folder = "."
-
     def do_GET(self):
         path = self.path.split("?", 1)[0]
         if path == "/stall":

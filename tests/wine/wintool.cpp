@@ -8,7 +8,6 @@
 #include <objbase.h>
 #include <shobjidl.h>
 
-#include <cstdio>
 #include <cwchar>
 #include <filesystem>
 #include <fstream>
@@ -32,9 +31,8 @@ int Run(int argc, wchar_t** argv) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process = {};
-  // Under load Wine sometimes refuses to start a program that an installer has just written,
-  // with ERROR_INTERNAL_ERROR; a moment later the same start succeeds. Only that error is tried
-  // again: whatever the program itself does is still checked by the caller.
+  // Under load Wine at times refuses to start a program an installer has just written, with
+  // ERROR_INTERNAL_ERROR, and a moment later starts it; only that error is tried again.
   BOOL started = FALSE;
   for (int attempt = 0; attempt < 4 && !started; ++attempt) {
     if (attempt > 0) Sleep(500);
