@@ -93,5 +93,5 @@ rm -f "$CONFIG"
 code=$(win_exit_code 20000 "$APP" --ensure-config)
 [ "$code" = 0 ] || fail "--ensure-config exited $code"
 config_has 'count=1' || fail "--ensure-config wrote no configuration"
-window_up && fail "--ensure-config started the guard"
+! window_up || fail "--ensure-config started the guard"
 

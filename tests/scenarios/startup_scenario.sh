@@ -70,4 +70,3 @@ dismiss_notice "Stayhold Setup" setup_dialog_placeholder 0 "$SETUP" --exit-after
 window_up && fail "the setup entered the guard role with an invalid limit"
 [ "$(log_lines)" = "$lines_before" ] || fail "the setup dialog path wrote to the log"
 
-echo "startup scenario: all checks passed"
