@@ -1,6 +1,5 @@
-// Feeds arbitrary skin files to the JSON reader. It must never crash or read out of bounds; every
-// document it accepts, written out canonically (one text per tree) and read again, gives the same
-// canonical text, and its flattened keys are all normalized.
+// Feeds arbitrary skin files to the JSON reader: no crash, no read out of bounds; an accepted
+// document written canonically reads back to the same text, and its flattened keys are normalized.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -60,13 +59,10 @@ bool Write(const JsonValue& value, std::wstring& out) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const std::string bytes(reinterpret_cast<const char*>(data), size);
   std::wstring text;
-  if (!WideFromUtf8Strict(bytes, text)) {
-    text.clear();  // not UTF-8: take the bytes as code units, as a damaged file might arrive
-    for (const char c : bytes)
-      text += static_cast<wchar_t>(static_cast<unsigned char>(c));
-  }
+  // Not UTF-8: the bytes as code units, as a damaged file might arrive.
+  if (!WideFromUtf8Strict(std::string(reinterpret_cast<const char*>(data), size), text))
+    text.assign(data, data + size);
   JsonValue value;
   if (!tessel::parseJsonText(text, value)) return 0;
 

@@ -1,8 +1,6 @@
 #!/usr/bin/env bash
-# The self-update against loopback servers (HTTP and HTTPS with a certificate the test makes and
-# trusts inside Wine): manifests of every kind, the receive time-out, the download with its
-# progress, SHA-256 and the silent launch of a stand-in setup that records its command line.
-# Nothing leaves 127.0.0.1.
+# The self-update tests against HTTP and HTTPS servers on 127.0.0.1 (a certificate made here and
+# trusted inside Wine), with every kind of manifest and a stand-in setup that records its start.
 . "$(dirname "$0")/../wine/harness.sh"
 harness_start update
 
@@ -25,8 +23,7 @@ start_server() {
 
 start_server
 HTTP="http://127.0.0.1:$PORT"
-# Wine matches the host name against DNS names only, so the certificate names "localhost",
-# which resolves to the loopback address the server listens on.
+# Wine matches host names against DNS names only: the certificate names localhost (127.0.0.1).
 openssl req -x509 -newkey rsa:2048 -nodes -days 2 -subj '/CN=localhost' \
   -addext 'subjectAltName=DNS:localhost' -keyout "$SUITE_DIR/key.pem" -out "$SUITE_DIR/cert.pem" \
   >/dev/null 2>&1 || fail "openssl could not make a certificate"
@@ -53,8 +50,7 @@ manifest install_no_hash.json "{$install}"
 manifest install_no_length.json "{${install/setup.exe/nolength/setup.exe}, \"sha256\": \"$SETUP_SUM\"}"
 manifest install_missing_setup.json "{${install/setup.exe/missing.exe}}"
 manifest withdrawn.json '{"version": "1.0.112"}'
-# What a maintainer publishes, made by the release tool; its own version, so that its setup file
-# is not the one the previous launch may still hold open.
+# Made by the release tool, with a version of its own: a previous launch may hold setup.exe open.
 python3 "$STAYHOLD_SOURCE/update/make_release_manifest.py" --setup "$SERVE/setup.exe" \
   --version 1.0.998 --setup-url "$HTTP/setup.exe" --changes "New" --changes-cs "Nové \"věci\"" \
   --out "$SERVE/released.json" || fail "the release tool failed"
@@ -63,4 +59,3 @@ export STAYHOLD_TEST_HTTP="$HTTP" STAYHOLD_TEST_HTTPS="$HTTPS" STAYHOLD_TEST_CLO
   STAYHOLD_TEST_SETUP_PATH="$(win_path "$SERVE/setup.exe")" STAYHOLD_TEST_SETUP_SHA256="$SETUP_SUM"
 WINE_TIMEOUT=180 wine_exe "$STAYHOLD_BUILD/tests/stayhold_update_win32_tests.exe" ||
   fail "the self-update tests failed"
-echo "update scenario: all checks passed"

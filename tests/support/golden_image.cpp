@@ -26,7 +26,6 @@ std::string describePixel(const uint8_t* bgra) {
   return text.str();
 }
 
-// The comparison behind both forms; the fixture is read and written by the given functions.
 ::testing::AssertionResult MatchesGoldenFile(
     const tessel::Image& image, const std::string& relative, int tolerance,
     bool (*write)(const std::filesystem::path&, const tessel::Image&),

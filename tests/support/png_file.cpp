@@ -52,15 +52,13 @@ uint8_t Predict(int type, const uint8_t* row, const uint8_t* prior, size_t i, si
 
 bool WritePngImage(const std::filesystem::path& path, const tessel::Image& image) {
   if (image.empty()) return false;
-  const std::vector<uint8_t>& pixels = *image.pixels;
   bool opaque = true;
-  for (size_t i = 3; i < pixels.size() && opaque; i += 4)
-    opaque = pixels[i] == 255;
+  for (size_t i = 3; i < image.pixels->size() && opaque; i += 4)
+    opaque = (*image.pixels)[i] == 255;
   const size_t step = opaque ? 3 : 4;
   const size_t stride = size_t(image.width) * step;
 
   std::vector<uint8_t> raw;
-  raw.reserve(size_t(image.height) * (stride + 1));
   std::vector<uint8_t> prior(stride, 0), row(stride);
   for (int y = 0; y < image.height; ++y) {
     for (int x = 0; x < image.width; ++x) {
@@ -124,8 +122,6 @@ bool ReadPngImage(const std::filesystem::path& path, tessel::Image& image) {
       step = data[9] == 2 ? 3 : 4;
     } else if (type == "IDAT") {
       packed.insert(packed.end(), data, data + length);
-    } else if (type == "IEND") {
-      break;
     }
     at += 12 + size_t(length);
   }

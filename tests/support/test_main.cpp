@@ -16,7 +16,6 @@ class FreshState : public ::testing::EmptyTestEventListener {
     ResetFakePlatform();
 #endif
     AppConfig() = StayholdConfig();
-    // As the application does at start: the interface speaks the configuration's language.
     SetLanguageSettingReader(&ConfiguredLanguage);
   }
 };

@@ -1,11 +1,6 @@
-# Shared harness for everything that runs under Wine; sourced by the scenario tests and by
-# run_in_prefix.sh. Each suite gets a fresh WINEPREFIX copied from a template in the build tree,
-# its own Xvfb when there is no display, and a persistent wineserver; all three are ended by their
-# own ids when the suite exits. Artifacts (log, config.ini, screenshots) are kept on failure.
-# Needs STAYHOLD_BUILD (the Windows build tree). Provides harness_start NAME (sets LOG, the
-# guard's log), wine_exe, wintool (tests/wine/wintool.cpp), win_exit_code MS EXE... (full 32 bits),
-# start_guard MS [ARGS] ($APP in the background once its window is up), guard_ends / stop_guard
-# (WM_CLOSE; both want exit code 0), expect_query, log_has, expect_log TEXT [SECONDS], log_lines.
+# Shared harness for everything under Wine, sourced by the scenarios and run_in_prefix.sh (needs
+# STAYHOLD_BUILD): a fresh WINEPREFIX copied from a template, an Xvfb when there is no display and
+# a persistent wineserver per suite, all ended by their ids at exit; artifacts kept on failure.
 set -u
 
 : "${STAYHOLD_BUILD:?STAYHOLD_BUILD must name the Windows build tree}"
@@ -18,14 +13,13 @@ WINE_TIMEOUT=${WINE_TIMEOUT:-60}
 APP="$STAYHOLD_BUILD/Stayhold.exe"
 _xvfb_pid="" _wineserver_pid=""
 
-# A display number of its own, chosen at random: suites start and end side by side, and a number
-# just given up by one suite's server is not handed to the next.
+# A random display number: suites run side by side, and a number just freed must not be reused.
 _start_xvfb() {
   [ -n "${DISPLAY:-}" ] && return 0
-  local fifo attempt candidate number
+  local fifo candidate number
   fifo=$(mktemp -u)
   mkfifo "$fifo"
-  for attempt in 1 2 3 4 5 6 7 8; do
+  for _ in 1 2 3 4 5 6 7 8; do
     candidate=$((100 + RANDOM % 800))
     [ -e "/tmp/.X11-unix/X$candidate" ] || [ -e "/tmp/.X$candidate-lock" ] && continue
     Xvfb ":$candidate" -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$fifo" >/dev/null 2>&1 &
@@ -43,7 +37,8 @@ _start_xvfb() {
   fail "harness: Xvfb did not start"
 }
 
-# Made once per build tree; suites copy it.
+# Made once per build tree; suites copy it. Wine links Desktop, Documents and the like to the
+# Linux home; tests must write inside the prefix only, so the links become folders of their own.
 _make_template_prefix() {
   local template="$STAYHOLD_BUILD/wine-template"
   (
@@ -53,8 +48,6 @@ _make_template_prefix() {
       mkdir -p "$template"
       WINEPREFIX="$template" timeout -k 5 120 "$WINE64" wineboot -i >/dev/null 2>&1 || exit 1
       WINEPREFIX="$template" timeout -k 5 60 wineserver -w
-      # Wine links Desktop, Documents and the like to the Linux home; tests must write inside
-      # the prefix only, so the links become folders of their own.
       find "$template/drive_c/users" -mindepth 2 -maxdepth 2 -type l | while read -r link; do
         rm -f "$link" && mkdir -p "$link"
       done
@@ -78,8 +71,7 @@ harness_start() {
   _wineserver_pid=$!
   WIN_USER=$(ls "$WINEPREFIX/drive_c/users" | grep -v -x -e Public -e Default | head -n 1)
   LOG="$(data_dir)/logs/stayhold.log"
-  # Start the desktop now and prove that windows can be made, so that no test meets a display
-  # that is not ready.
+  # Prove that windows can be made, so that no test meets a display that is not ready.
   wait_for 30 wintool window probe || fail "harness: Wine cannot create a window on $DISPLAY"
 }
 
@@ -104,11 +96,8 @@ _harness_stop() {
 wine_exe() { timeout -k 5 "$WINE_TIMEOUT" "$WINE64" "$@"; }
 
 wintool() {
-  local out status
-  out=$(wine_exe "$STAYHOLD_BUILD/tests/wintool.exe" "$@")
-  status=$?
-  [ -n "$out" ] && printf '%s\n' "${out//$'\r'/}"
-  return "$status"
+  wine_exe "$STAYHOLD_BUILD/tests/wintool.exe" "$@" | tr -d '\r'
+  return "${PIPESTATUS[0]}"
 }
 
 # Prints the full exit code, or "timeout"; a failure to start fails the suite.
@@ -117,8 +106,7 @@ win_exit_code() {
   shift
   out=$(wintool run "$limit" "$@")
   case "$out" in
-    exit=*) echo "${out#exit=}" ;;
-    timeout) echo timeout ;;
+    exit=* | timeout) echo "${out#exit=}" ;;
     "") echo "no-answer" ;;  # the helper itself was ended, as at a suite's clean-up
     *) fail "could not start $* ($out)" ;;
   esac
@@ -155,10 +143,7 @@ log_lines() { [ -f "$LOG" ] && grep -c '' "$LOG" || echo 0; }
 data_dir() { echo "$WINEPREFIX/drive_c/users/$WIN_USER/AppData/Local/Stayhold"; }
 win_path() { echo "Z:$1" | tr '/' '\\'; }  # Wine maps / to Z:
 shot() { import -window root "$ARTIFACTS/$1.png" && echo "$ARTIFACTS/$1.png"; }
-fail() {
-  echo "FAIL: $*" >&2
-  exit 1
-}
+fail() { echo "FAIL: $*" >&2; exit 1; }
 
 # Runs until the condition command succeeds or the seconds run out.
 wait_for() {

@@ -1,20 +1,13 @@
-// A console helper that the scenario tests run inside Wine. Wine cuts exit codes to 8 bits on
-// the Linux side, and window lookups and messages need the Windows API, so this does both:
-//   wintool run TIMEOUT_MS EXE [ARGS...]        prints "exit=N" (full 32 bits) or "timeout"
-//   wintool find CLASS                          prints the window's facts; exit 1 when absent
-//   wintool send CLASS MSG WPARAM LPARAM [MS]   SendMessageTimeoutW; prints "result=N"
-//   wintool send-first CLASS MSG WPARAM LPARAM MS  waits for the window, sends at once; prints
-//                                               "result=N" and "after_found_ms=N"
-//   wintool post CLASS MSG WPARAM LPARAM        PostMessageW
-//   wintool read-link FILE.lnk                  prints the shortcut's target, arguments, folder
-//   wintool add-root-cert FILE.der              trusts a certificate for HTTPS (machine ROOT)
-//   wintool window TITLE                        exit 0 when a top-level window can be created
+// A console helper the scenarios run inside Wine, which cuts exit codes to 8 bits on the Linux
+// side; window lookups and messages need the Windows API. Verbs:
+//   run MS EXE [ARGS]: "exit=N" (32 bits) or "timeout"   find CLASS: the window's facts
+//   send CLASS MSG W L [WAIT_MS]: "result=N", "after_found_ms=N"    post CLASS MSG W L [WAIT_MS]
+//   read-link FILE.lnk; add-root-cert FILE.der (machine ROOT); window TITLE (can one be made)
 #include <windows.h>
 #include <wincrypt.h>
 #include <objbase.h>
 #include <shobjidl.h>
 
-#include <cstdio>
 #include <cwchar>
 #include <filesystem>
 #include <fstream>
@@ -38,9 +31,8 @@ int Run(int argc, wchar_t** argv) {
   STARTUPINFOW startup = {};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process = {};
-  // Under load Wine sometimes refuses to start a program that an installer has just written,
-  // with ERROR_INTERNAL_ERROR; a moment later the same start succeeds. Only that error is tried
-  // again: whatever the program itself does is still checked by the caller.
+  // Under load Wine at times refuses to start a program an installer has just written, with
+  // ERROR_INTERNAL_ERROR, and a moment later starts it; only that error is tried again.
   BOOL started = FALSE;
   for (int attempt = 0; attempt < 4 && !started; ++attempt) {
     if (attempt > 0) Sleep(500);
@@ -64,15 +56,8 @@ int Run(int argc, wchar_t** argv) {
   return finished ? 0 : 1;
 }
 
-// The window of the class, or null after saying "absent".
-HWND FindOrSay(const wchar_t* window_class) {
-  HWND window = FindWindowW(window_class, nullptr);
-  if (!window) std::wprintf(L"absent\n");
-  return window;
-}
-
 int Find(const wchar_t* window_class) {
-  HWND window = FindOrSay(window_class);
+  HWND window = FindWindowW(window_class, nullptr);
   if (!window) return 1;
   wchar_t title[256] = {};
   GetWindowTextW(window, title, 256);
@@ -90,28 +75,24 @@ int Find(const wchar_t* window_class) {
   return 0;
 }
 
-// send-first waits for the window and sends at once, for what happens in its first moments.
-int Send(int argc, wchar_t** argv, const std::wstring& verb) {
-  if (argc < 6 || (verb == L"send-first" && argc < 7)) return 2;
-  const bool first = verb == L"send-first";
-  const ULONGLONG end = GetTickCount64() + (first ? Number(argv[6]) : 0);
-  while (first && !FindWindowW(argv[2], nullptr) && GetTickCount64() <= end)
+// Waits up to WAIT_MS for the window, for what happens in its first moments.
+int Send(int argc, wchar_t** argv, bool post) {
+  if (argc < 6) return 2;
+  const ULONGLONG end = GetTickCount64() + (argc > 6 ? Number(argv[6]) : 0);
+  while (!FindWindowW(argv[2], nullptr) && GetTickCount64() <= end)
     Sleep(1);
-  HWND window = FindOrSay(argv[2]);
+  HWND window = FindWindowW(argv[2], nullptr);
   if (!window) return 1;
   const ULONGLONG found = GetTickCount64();
   const UINT message = static_cast<UINT>(Number(argv[3]));
   const WPARAM w_param = static_cast<WPARAM>(Number(argv[4]));
   const LPARAM l_param = static_cast<LPARAM>(Number(argv[5]));
-  if (verb == L"post") return PostMessageW(window, message, w_param, l_param) ? 0 : 1;
-  const UINT timeout = !first && argc > 6 ? static_cast<UINT>(Number(argv[6])) : 5000;
+  if (post) return PostMessageW(window, message, w_param, l_param) ? 0 : 1;
   DWORD_PTR result = 0;
-  if (!SendMessageTimeoutW(window, message, w_param, l_param, SMTO_ABORTIFHUNG, timeout, &result)) {
-    std::wprintf(L"send-failed=%lu\n", GetLastError());
+  if (!SendMessageTimeoutW(window, message, w_param, l_param, SMTO_ABORTIFHUNG, 5000, &result))
     return 1;
-  }
-  std::wprintf(L"result=%llu\n", static_cast<unsigned long long>(result));
-  if (first) std::wprintf(L"after_found_ms=%llu\n", GetTickCount64() - found);
+  std::wprintf(L"result=%llu\nafter_found_ms=%llu\n", static_cast<unsigned long long>(result),
+               GetTickCount64() - found);
   return 0;
 }
 
@@ -146,8 +127,7 @@ int AddRootCertificate(const wchar_t* path) {
   return ok ? 0 : 1;
 }
 
-// Creating a window needs the display driver and the desktop; the harness checks both this way
-// before a suite runs, so a display that is not ready fails loudly instead of as test failures.
+// Creating a window needs the display driver and the desktop: the harness's readiness check.
 int ProbeWindow(const wchar_t* title) {
   HWND window = CreateWindowExW(0, L"STATIC", title, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
                                 GetModuleHandleW(nullptr), nullptr);
@@ -163,7 +143,7 @@ int wmain(int argc, wchar_t** argv) {
   const std::wstring verb = argv[1];
   if (verb == L"run") return Run(argc, argv);
   if (verb == L"find") return Find(argv[2]);
-  if (verb == L"send" || verb == L"post" || verb == L"send-first") return Send(argc, argv, verb);
+  if (verb == L"send" || verb == L"post") return Send(argc, argv, verb == L"post");
   if (verb == L"read-link") return ReadLink(argv[2]);
   if (verb == L"add-root-cert") return AddRootCertificate(argv[2]);
   if (verb == L"window") return ProbeWindow(argv[2]);
