@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <tuple>
 #include <vector>
 
 #include "tessel/paint/gradient.h"
@@ -120,25 +119,39 @@ TEST(SurfacePainter, HugeLayersArePaintedButNotKept) {
 }
 
 // The usual bodies are golden images (surface_golden_test.cpp); here rows without a segment and
-// empty segments, which leave the ground as it was.
-TEST(SurfacePainter, SegmentedBodiesSkipEmptySegmentsAndRowsWithoutOne) {
-  const auto paint = [](const std::vector<Rect>& segments) {
+// empty segments leave the ground as it was, and a translucent body blends over the ground it
+// covers, row by row or column by column.
+TEST(SurfacePainter, SegmentedBodiesKeepTheirGround) {
+  SurfaceStyle s = Plain();
+  s.useGradient = true;  // of one colour, but it takes the opacity
+  s.opacity = 160;
+  const auto paint = [&](const std::vector<Rect>& segments) {
     clearPaintCaches();
-    Image image = Image::blank(20, 20);
+    Image image = Image::blank(48, 20);
     ImageCanvas canvas(image);
-    drawSegmentedSurface(canvas, segments, Plain(), P::BestGraphics);
+    canvas.fillRect({0, 0, 48, 20}, rgbColor(180, 20, 20));
+    if (segments.size() == 1) drawSurface(canvas, segments[0], s, P::BestGraphics);
+    if (segments.size() > 1) drawSegmentedSurface(canvas, segments, s, P::BestGraphics);
     return image;
   };
-  const Image body = paint({{0, 0, 10, 5}, {3, 3, 0, 9}, {2, 10, 10, 5}, {4, 4, 5, -2}});
-  for (const auto& [x, y, painted] : {std::tuple{0, 0, true},
-                                      {9, 4, true},
-                                      {5, 7, false},
-                                      {1, 12, false},
-                                      {2, 12, true},
-                                      {11, 14, true},
-                                      {12, 12, false}})
-    EXPECT_EQ(body.alphaAt(x, y), painted ? 255 : 0) << x << "," << y;
-  EXPECT_EQ(*paint({{1, 1, 0, 5}, {2, 2, 4, 0}}).pixels, *Image::blank(20, 20).pixels);
+  const Image ground = paint({}), whole = paint({{0, 0, 48, 20}});
+  EXPECT_EQ(*paint({{1, 1, 0, 5}, {2, 2, 4, 0}}).pixels, *ground.pixels);
+  const Image rows = paint({{0, 0, 10, 5}, {3, 3, 0, 9}, {2, 10, 10, 5}, {4, 4, 5, -2}});
+  const Image columns = paint({{0, 0, 10, 8}, {10, 2, 30, 10}});
+  const auto same = [](const Image& a, const Image& b, int32_t x, int32_t y) {
+    return std::equal(a.pixel(x, y), a.pixel(x, y) + 4, b.pixel(x, y));
+  };
+  EXPECT_FALSE(same(ground, whole, 0, 0));
+  const struct {
+    const Image* body;
+    int32_t x, y;
+    bool painted;
+  } kPixels[] = {{&rows, 0, 0, true},     {&rows, 9, 4, true},      {&rows, 5, 5, false},
+                 {&rows, 5, 7, false},    {&rows, 1, 12, false},    {&rows, 2, 12, true},
+                 {&rows, 11, 14, true},   {&rows, 12, 12, false},   {&columns, 5, 7, true},
+                 {&columns, 20, 5, true}, {&columns, 20, 1, false}, {&columns, 5, 8, false}};
+  for (const auto& p : kPixels)
+    EXPECT_TRUE(same(*p.body, p.painted ? whole : ground, p.x, p.y)) << p.x << "," << p.y;
 }
 
 }  // namespace
