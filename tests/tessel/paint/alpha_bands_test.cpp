@@ -1,17 +1,11 @@
 #include "tessel/paint/alpha_bands.h"
 
-#include <ostream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 namespace tessel {
-
-static void PrintTo(const Rect& r, std::ostream* os) {
-  *os << "{" << r.x << ", " << r.y << ", " << r.width << ", " << r.height << "}";
-}
-
 namespace {
 
 // Rows split by '|': '#' opaque, 'o' alpha 10, '.' transparent; any other letter is its code.

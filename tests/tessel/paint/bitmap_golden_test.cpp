@@ -61,14 +61,7 @@ TEST(BitmapGolden, NineSlicePlateAtThreeSizes) {
 
 BitmapTint tint(TintMode mode, Color color, MaskChannel channel, bool preserve,
                 uint8_t amount = 255) {
-  BitmapTint t;
-  t.mode = mode;
-  t.color = color;
-  t.maskChannel = channel;
-  t.preserveLuminance = preserve;
-  t.amount = amount;
-  t.coverageThreshold = 16;
-  return t;
+  return {mode, channel, color, 0x000000, {}, 0, amount, 16, preserve};
 }
 
 TEST(BitmapGolden, EachTintModeOnATestImage) {

@@ -4,21 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "tessel/core/panel.h"
 #include "tessel/paint/gdi_canvas_win32.h"
-#include "tessel/paint/image_canvas.h"
+#include "tests/tessel/core/test_controls.h"
 
 namespace tessel {
 namespace {
-
-struct Box : Control {
-  Box(std::wstring id, Rect bounds, Color color) : Control(std::move(id), bounds), color(color) {}
-  void paint(Canvas& canvas, Point o) override {
-    canvas.fillRect(Rect{o.x + bounds().x, o.y + bounds().y, bounds().width, bounds().height},
-                    color);
-  }
-  Color color;
-};
 
 // A memory device context over a 32-bit section filled with `ground`, read back directly.
 struct MemoryTarget {
@@ -72,8 +62,7 @@ TEST(GdiCanvas, PaintsATreeWithClipsLikeTheMemoryCanvas) {
   root.paint(memory, Point{});
   for (int y = 0; y < 40; y += 3)
     for (int x = 0; x < 25; x += 3)
-      EXPECT_EQ(target.at(x, y), rgbColor(reference.pixel(x, y)[2], reference.pixel(x, y)[1],
-                                          reference.pixel(x, y)[0]));
+      EXPECT_EQ(target.at(x, y), PixelAt(reference, x, y)) << x << "," << y;
 }
 
 TEST(GdiCanvas, BlendsPremultipliedImagesCopiesPixelsAndDrawsWideLines) {

@@ -51,9 +51,7 @@ const Kind kKinds[] = {
     {MaterialKind::Granite, "granite", rgbColor(0x9A, 0x96, 0x90)},
     {MaterialKind::Marble, "marble", rgbColor(0xE8, 0xE2, 0xD6)},
 };
-const auto& kMetal = kKinds[3];
-const auto& kGranite = kKinds[16];
-const auto& kMarble = kKinds[17];
+const Kind &kMetal = kKinds[3], &kGranite = kKinds[16], &kMarble = kKinds[17];
 
 // Middling values, the same for every picture.
 SurfaceStyle materialStyle(const Kind& k) {

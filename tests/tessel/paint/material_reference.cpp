@@ -83,60 +83,9 @@ bool carbonDiffer(const SurfaceStyle& s, int64_t wx, int64_t wy) {
   return (a & 1) != (b & 1);
 }
 
-// The relief's height at pixel (x, y) of the rectangle, world position (wx, wy) and normalized
-// sample position (tx, ty).
-double height(const SurfaceStyle& s, double x, double y, int64_t wx, int64_t wy, double tx,
-              double ty) {
-  const int64_t angle = s.materialAngle, scale = scaleOf(s);
-  const uint32_t seed = s.noiseSeed;
-  const double u = sat(tx);
-  const double v = sat(ty);
-  const double dome = pw(1 - std::sqrt((u - 0.5) * (u - 0.5) + (v - 0.5) * (v - 0.5)) * 1.82, 1.55);
-  const double a = radians(double(angle));
-  const double p = (std::cos(a) * x + std::sin(a) * y) / double(scale);
-  const double stripe = std::sin(p * 2 * kPi) * 0.5 + 0.5;
-  const uint32_t hash = hashCell(seed ^ kReliefTag, uint32_t(wx), uint32_t(wy));
-  const double h1 = (hash & 0xFF) / 255.0;
-  const double h2 = ((hash >> 8) & 0xFF) / 255.0;
-  double h = 0;
-  switch (s.material) {
-    case MaterialKind::Glass:
-    case MaterialKind::FrostedGlass:
-      h = dome * 0.68 + stripe * 0.1 + h1 * 0.1;
-      break;
-    case MaterialKind::Gloss:
-    case MaterialKind::Plastic:
-      h = pos(1 - std::abs(v - 0.28) * 4.8) * 0.24 + dome * 0.56 + h1 * 0.08;
-      break;
-    case MaterialKind::Metal:
-    case MaterialKind::BrushedMetal:
-      h = dome * 0.22 + stripe * 0.4 + std::abs(h1 - 0.5) * 0.2;
-      break;
-    case MaterialKind::Rubber:
-      h = h1 * 0.34 + dome * 0.25 + h2 * 0.1;
-      break;
-    case MaterialKind::Paper:
-      h = h1 * 0.26 + dome * 0.12 + h2 * 0.16;
-      break;
-    case MaterialKind::CarbonFiber:
-      h = dome * 0.16 + (carbonDiffer(s, wx, wy) ? 0.28 : 0.68) + h1 * 0.06;
-      break;
-    case MaterialKind::LuminousGlass: {
-      const double b = radians(double(s.lightBlobAngle));
-      h = ridge(std::cos(b) * (u - 0.5) + std::sin(b) * (v - 0.5), 2.1, 2.6) * 0.42 + dome * 0.34 +
-          stripe * 0.08 + h1 * 0.04;
-      break;
-    }
-    default:
-      break;
-  }
-  return sat(h);
-}
-
 }  // namespace
 
-Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effectiveDepth,
-                      bool cheap, double phase) {
+Image materialOverlay(const SurfaceStyle& style, const Rect& rect) {
   Image image = Image::blank(rect.width, rect.height);
   if (image.empty()) return image;
   const SampleSpace space = sampleSpace(style, rect);
@@ -144,12 +93,11 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
   const Color tint = style.materialTint, back = style.backlightColor;
   const Color HL = mixColor(hex(0xFFFFFF), tint, 0.28), SH = mixColor(hex(0x000000), tint, 0.10);
   const double H = style.highlightOpacity, R = style.reflectionOpacity, B = style.backlightOpacity,
-               I = style.innerGlow, L = style.rimLight;
+               L = style.rimLight;
   const double G =
       style.grainOpacity != 0 ? style.grainOpacity : defaultGrainOpacity(style.material);
   const double angle = double(style.materialAngle);
   const uint32_t seed = style.noiseSeed;
-  const double d = effectiveDepth / 255.0;
 
   for (int32_t y = 0; y < rect.height; ++y) {
     for (int32_t x = 0; x < rect.width; ++x) {
@@ -160,7 +108,6 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
       const uint32_t hash = hashCell(seed ^ kOverlayGrainTag, uint32_t(worldX), uint32_t(worldY));
       const uint32_t g = hash & 0xFF;
       const double gn = g / 255.0;
-      const double side = std::max(tx, 1 - tx);
       const double edge = std::min({tx, 1 - tx, ty, 1 - ty});
 
       Pixel px{HL, 0};
@@ -198,66 +145,12 @@ Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effec
           px.alpha = G * (differ ? 0.72 : 0.45) + R * 0.22;
           break;
         }
-        case MaterialKind::LuminousGlass: {
-          const double motion = phase > 0 ? 1 : 0;
-          const double cx = 0.30 + motion * 0.16 * std::cos(2 * kPi * phase);
-          const double cy = 0.62 + motion * 0.12 * std::sin(2 * kPi * phase * 0.83 + 0.8);
-          const double blobAngle = radians(double(style.lightBlobAngle));
-          const double dx = tx - cx, dy = ty - cy;
-          const double along = dx * std::cos(blobAngle) + dy * std::sin(blobAngle);
-          const double across = dy * std::cos(blobAngle) - dx * std::sin(blobAngle);
-          const double ratio =
-              std::max(style.lightBlobScale, 24) / std::max({space.x.extent, space.y.extent, 64.0});
-          const double s1 = std::clamp(ratio * 0.62, 0.26, 1.25);
-          const double s2 = std::clamp(ratio * 0.24, 0.12, 0.64);
-          const double blob = std::exp(-(along * along / (s1 * s1) + across * across / (s2 * s2)));
-          const double lower =
-              std::exp(-((ty - 0.86) * (ty - 0.86) / 0.055 + (tx - 0.72) * (tx - 0.72) / 0.2));
-          const double rim = pw(1 - edge * 13.5, 2.7);
-          const double field = peak(axis, 0.5, 1.75, 2.2);
-          const Color inner = mixColor(tint, back, 0.72);
-          const Color rimColour = mixColor(back, hex(0xFFE2BE), 0.16);
-          if (cheap) {
-            px.colour = inner;
-            px.alpha = rim * L * 0.1 + B * field * 0.16;
-          } else {
-            px.colour = mixColor(hex(0x050508), back, 0.36);
-            px.add(back, blob * B * 0.7);
-            px.add(inner, lower * I * 0.54);
-            px.add(inner, field * I * 0.12);
-            px.add(rimColour, rim * L * 0.34);
-            if (G > 0) px.add(mixColor(hex(0x000000), back, 0.34), std::abs(gn - 0.5) * G * 0.08);
-          }
+        case MaterialKind::LuminousGlass:  // the cheap form
+          px.colour = mixColor(tint, back, 0.72);
+          px.alpha = pw(1 - edge * 13.5, 2.7) * L * 0.1 + B * peak(axis, 0.5, 1.75, 2.2) * 0.16;
           break;
-        }
         default:
           break;
-      }
-
-      // The relief light.
-      if (d > 0) {
-        const double az = radians(double(style.materialLightAngle));
-        const double el = radians(double(std::clamp<int>(style.materialLightElevation, 1, 89)));
-        const double Lx = std::cos(el) * std::cos(az), Ly = std::cos(el) * std::sin(az),
-                     Lz = std::sin(el);
-        const double sx = space.x.step(), sy = space.y.step();
-        const double hl = height(style, x - 1, y, worldX - 1, worldY, tx - sx, ty);
-        const double hr = height(style, x + 1, y, worldX + 1, worldY, tx + sx, ty);
-        const double hu = height(style, x, y - 1, worldX, worldY - 1, tx, ty - sy);
-        const double hd = height(style, x, y + 1, worldX, worldY + 1, tx, ty + sy);
-        // The colours of the relief's light and of its lip.
-        const bool luminous = kind == MaterialKind::LuminousGlass;
-        const Color lightColour = luminous ? mixColor(back, tint, 0.38) : HL;
-        const Color lipColour = luminous ? mixColor(back, hex(0xFFE2BE), 0.12) : HL;
-        const double gx = (hl - hr) * d * 3.2;
-        const double gy = (hu - hd) * d * 3.2;
-        const double len = std::sqrt(gx * gx + gy * gy + 1);
-        const double shade = (gx * Lx + gy * Ly + Lz) / len - Lz;
-        if (shade > 0.006) px.add(lightColour, H * shade * (0.85 + d * 1.35) * 2.3);
-        if (shade < -0.006) px.add(SH, R * (-shade) * (0.85 + d * 1.35) * 1.85);
-        const double lip =
-            ramp(std::max(ty, 1 - ty), 0.82, 5.56, 1.45) + ramp(side, 0.82, 5.56, 1.45);
-        if (lip > 0) px.add(lipColour, R * lip * d * 0.18);
       }
 
       const double alpha = std::clamp(style.materialStrength / 180.0 * px.alpha, 0.0, 255.0);

@@ -1,7 +1,7 @@
 // A plain per-pixel transcription of the material layers, with the standard library's pow, exp
 // and sin, written for reading rather than speed. The painter's row-wise code must stay within
-// one step per channel of it. The overlay knows the kinds in kReferenceKinds and no finish: the
-// golden images hold the other kinds and every finish.
+// one step per channel of it. The overlay knows the kinds in kReferenceKinds, LuminousGlass in its
+// cheap form only, no finish and no relief: the golden images hold the rest.
 #pragma once
 
 #include "tessel/style/geometry.h"
@@ -16,10 +16,8 @@ inline constexpr MaterialKind kReferenceKinds[] = {
     MaterialKind::Rubber,       MaterialKind::Paper,        MaterialKind::CarbonFiber,
     MaterialKind::LuminousGlass};
 
-// The overlay of `style` over a surface at `rect`, as if its gate had passed, with the
-// effective depth and form given: `cheap` selects the LuminousGlass cheap form.
-Image materialOverlay(const SurfaceStyle& style, const Rect& rect, uint8_t effectiveDepth,
-                      bool cheap, double phase);
+// The overlay of `style` over a surface at `rect` without relief, as if its gate had passed.
+Image materialOverlay(const SurfaceStyle& style, const Rect& rect);
 // The spatial shading, as if its conditions held (an intensity below 0.16 still gives nothing).
 Image spatialShading(const SurfaceStyle& style, const Rect& rect);
 // The noise layer, as if its gate had passed.
