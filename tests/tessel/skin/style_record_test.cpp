@@ -45,46 +45,37 @@ TEST(StyleFieldTables, EveryKeyOfARecordIsSpelledOnce) {
   });
 }
 
-// Gives the index-th spelling of a field a value of its own under `key`, distinct from what a
-// new record holds.
+// Gives the index-th spelling of a field, under `key`, a value of its own that a new record
+// (`fresh`) doesn't hold; with `value`, tells whether the field holds what that spelling gave.
 template <typename Value>
-void Give(PropertyTable& keys, const std::wstring& key, int index, const Value& fresh) {
+bool Probe(const Value& fresh, int index, PropertyTable* keys, const std::wstring& key = L"",
+           const Value* value = nullptr) {
   const std::wstring number = std::to_wstring(30 + index);
-  if constexpr (std::is_same_v<Value, TextStyle>) {
-    keys[normalizeKeyPath(key.empty() ? L"pointSize" : key + L".pointSize")] = number;
-  } else if constexpr (std::is_same_v<Value, TintStates>) {
-    keys[normalizeKeyPath(key.empty() ? L"tintColor" : key + L".color")] = L"#0000" + number;
-  } else if constexpr (std::is_same_v<Value, ScrollAcceleration>) {
-    keys[normalizeKeyPath(key + L".resetMs")] = number;
-  } else if constexpr (std::is_same_v<Value, bool>) {
-    keys[normalizeKeyPath(key)] = fresh ? L"false" : L"true";
-  } else if constexpr (std::is_same_v<Value, Color>) {
-    keys[normalizeKeyPath(key)] = L"#1020" + number;
-  } else if constexpr (std::is_arithmetic_v<Value>) {
-    keys[normalizeKeyPath(key)] = number;
-  } else {
-    ADD_FAILURE() << "no probe for a field with aliases of this kind";
-  }
-}
-
-// Whether the field holds what the index-th spelling was given.
-template <typename Value>
-bool Holds(const Value& value, int index, const Value& fresh) {
+  const auto give = [&](const std::wstring& path, const std::wstring& text) {
+    if (keys) (*keys)[normalizeKeyPath(path)] = text;
+  };
   const uint32_t given = static_cast<uint32_t>(0x30 + index);
   if constexpr (std::is_same_v<Value, TextStyle>) {
-    return value.pointSize == 30 + index;
+    give(key.empty() ? L"pointSize" : key + L".pointSize", number);
+    return value && value->pointSize == 30 + index;
   } else if constexpr (std::is_same_v<Value, TintStates>) {
-    return value.normal.color == rgbColor(0, 0, given) &&
-           value.disabled.color == rgbColor(0, 0, given);
+    give(key.empty() ? L"tintColor" : key + L".color", L"#0000" + number);
+    return value && value->normal.color == rgbColor(0, 0, given) &&
+           value->disabled.color == rgbColor(0, 0, given);
   } else if constexpr (std::is_same_v<Value, ScrollAcceleration>) {
-    return value.resetMs == 30 + index;
+    give(key + L".resetMs", number);
+    return value && value->resetMs == 30 + index;
   } else if constexpr (std::is_same_v<Value, bool>) {
-    return value != fresh;
+    give(key, fresh ? L"false" : L"true");
+    return value && *value != fresh;
   } else if constexpr (std::is_same_v<Value, Color>) {
-    return value == rgbColor(0x10, 0x20, given);
+    give(key, L"#1020" + number);
+    return value && *value == rgbColor(0x10, 0x20, given);
   } else if constexpr (std::is_arithmetic_v<Value>) {
-    return value == static_cast<Value>(30 + index);
+    give(key, number);
+    return value && *value == static_cast<Value>(30 + index);
   } else {
+    ADD_FAILURE() << "no probe for a field with aliases of this kind";
     return false;
   }
 }
@@ -108,21 +99,21 @@ TEST(StyleFieldTables, EveryAliasReachesItsFieldAndTheLastWins) {
             // Compiled for every kind of member; a record never holds one larger than itself.
             using Value = std::remove_cvref_t<decltype(field_walk::resolve(fresh, target))>;
             if constexpr (sizeof(Value) <= sizeof(Record)) {
-              const auto parsed = [&](const PropertyTable& keys) {
+              const Value& before = field_walk::resolve(fresh, target);
+              const auto holds = [&](const PropertyTable& keys, int index) {
                 Record into;
                 parseStyle(StyleReader(keys, L"", context), into);
-                return field_walk::resolve(into, target);
+                return Probe(before, index, nullptr, L"", &field_walk::resolve(into, target));
               };
-              const Value& before = field_walk::resolve(fresh, target);
               PropertyTable all;
               for (int i = 0; i < int(spellings.size()); ++i) {
                 SCOPED_TRACE(typeid(Record).name() + (" " + Narrow(spellings[i])));
                 PropertyTable one;
-                Give(one, spellings[i], i, before);
-                Give(all, spellings[i], i, before);
-                EXPECT_TRUE(Holds(parsed(one), i, before));
+                Probe(before, i, &one, spellings[i]);
+                Probe(before, i, &all, spellings[i]);
+                EXPECT_TRUE(holds(one, i));
               }
-              EXPECT_TRUE(Holds(parsed(all), int(spellings.size()) - 1, before))
+              EXPECT_TRUE(holds(all, int(spellings.size()) - 1))
                   << typeid(Record).name() << " all spellings";
             }
           },
@@ -134,7 +125,7 @@ TEST(StyleFieldTables, EveryAliasReachesItsFieldAndTheLastWins) {
 
 // A nested record's main surfaces take the parent's shape key: a tab strip's `shape` shapes its
 // item button's states, a scroll bar's the track, thumb and both buttons; a card's the surface
-// only; the shapes block's scroll metrics reach a scroll bar nested anywhere.
+// only.
 TEST(StyleRecordWalk, ShapeKeysReachNestedMainSurfacesAndTheSurfaceOwnShapeWins) {
   const Theme theme;
   const StyleContext context{&theme, L""};
@@ -154,12 +145,6 @@ TEST(StyleRecordWalk, ShapeKeysReachNestedMainSurfacesAndTheSurfaceOwnShapeWins)
   CardStyle card;
   shapeStyle(card, ShapeKind::Bevel);
   EXPECT_TRUE(card.surface.shape == ShapeKind::Bevel && card.header.shape != ShapeKind::Bevel);
-  ShapeSet shapes;
-  shapes.scrollShowButtons = 0;
-  HierarchicalListBoxStyle list;
-  list.scrollBar.showButtons = true;
-  applyShapeRoles(list, shapes);
-  EXPECT_FALSE(list.scrollBar.showButtons);
 }
 
 }  // namespace
