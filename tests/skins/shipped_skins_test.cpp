@@ -143,21 +143,18 @@ std::string Problems(const StyleSheet& sheet) {
 // Every style id the application asks for, with the kind that asks; active and idle chips
 // must tell protection apart at a glance.
 TEST(ShippedSkins, ApplicationVariantsResolveInTheTacticalSkin) {
-  std::istringstream variants(
-      "statuschip:stayhold-active statuschip:stayhold-idle checkbox:stayhold-option "
-      "button:stayhold-tray-action button:stayhold-primary button:stayhold-secondary "
-      "popup:stayhold-notice popup:stayhold-error popup:stayhold-setup "
-      "popup:stayhold-setup-installed chrometitlebar:stayhold-chrome card:stayhold-card "
-      "selectbox:stayhold-select textinput:stayhold-input tablelist:stayhold-table "
-      "scrollbar:stayhold-scroll");
   const SkinDefinition& skin = *ShippedSkin(L"stayhold-tactical-3d");
-  for (std::string variant; variants >> variant;) {
+  for (const std::wstring variant :
+       {L"statuschip:stayhold-active", L"statuschip:stayhold-idle", L"checkbox:stayhold-option",
+        L"button:stayhold-tray-action", L"button:stayhold-primary", L"button:stayhold-secondary",
+        L"popup:stayhold-notice", L"popup:stayhold-error", L"popup:stayhold-setup",
+        L"popup:stayhold-setup-installed", L"chrometitlebar:stayhold-chrome", L"card:stayhold-card",
+        L"selectbox:stayhold-select", L"textinput:stayhold-input", L"tablelist:stayhold-table",
+        L"scrollbar:stayhold-scroll"}) {
     const size_t colon = variant.find(':');
-    const std::wstring type(variant.begin(), variant.begin() + colon),
-        id = normalizeKey(std::wstring(variant.begin() + colon + 1, variant.end()));
     EXPECT_TRUE(std::any_of(skin.overrides.begin(), skin.overrides.end(), [&](const auto& o) {
-      return o.type == type && o.id == id;
-    })) << variant;
+      return o.type == variant.substr(0, colon) && o.id == normalizeKey(variant.substr(colon + 1));
+    })) << Utf8FromWide(variant);
   }
   const StyleSheet sheet(skin);
   EXPECT_NE(sheet.statusChips.get(L"stayhold-active").badge.fill,

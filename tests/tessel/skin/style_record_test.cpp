@@ -22,10 +22,6 @@ void ForEachRecord(F&& f) {
                         SelectableTextStyle, PopupStyle, TooltipStyle, WindowStyle>());
 }
 
-std::string Narrow(const std::wstring& text) {
-  return std::string(text.begin(), text.end());
-}
-
 // Skins normalize keys, so two spellings that normalize alike are one key: a record's keys must
 // differ after normalizing, and no field key may double as a shape key.
 TEST(StyleFieldTables, EveryKeyOfARecordIsSpelledOnce) {
@@ -41,43 +37,36 @@ TEST(StyleFieldTables, EveryKeyOfARecordIsSpelledOnce) {
     }
     EXPECT_FALSE(keys.empty());
     for (const auto& [key, count] : keys)
-      EXPECT_TRUE(count == 1 && !shapeKeys.contains(key)) << Narrow(key);
+      EXPECT_TRUE(count == 1 && !shapeKeys.contains(key)) << key;
   });
 }
 
-// Gives the index-th spelling of a field, under `key`, a value of its own that a new record
-// (`fresh`) doesn't hold; with `value`, tells whether the field holds what that spelling gave.
+// The key and text that give the index-th spelling of a field (`key`) a value of its own, one a
+// new record (`fresh`) doesn't hold; `Holds` tells whether a parsed field holds it.
 template <typename Value>
-bool Probe(const Value& fresh, int index, PropertyTable* keys, const std::wstring& key = L"",
-           const Value* value = nullptr) {
-  const std::wstring number = std::to_wstring(30 + index);
-  const auto give = [&](const std::wstring& path, const std::wstring& text) {
-    if (keys) (*keys)[normalizeKeyPath(path)] = text;
-  };
-  const uint32_t given = static_cast<uint32_t>(0x30 + index);
-  if constexpr (std::is_same_v<Value, TextStyle>) {
-    give(key.empty() ? L"pointSize" : key + L".pointSize", number);
-    return value && value->pointSize == 30 + index;
-  } else if constexpr (std::is_same_v<Value, TintStates>) {
-    give(key.empty() ? L"tintColor" : key + L".color", L"#0000" + number);
-    return value && value->normal.color == rgbColor(0, 0, given) &&
-           value->disabled.color == rgbColor(0, 0, given);
-  } else if constexpr (std::is_same_v<Value, ScrollAcceleration>) {
-    give(key + L".resetMs", number);
-    return value && value->resetMs == 30 + index;
-  } else if constexpr (std::is_same_v<Value, bool>) {
-    give(key, fresh ? L"false" : L"true");
-    return value && *value != fresh;
-  } else if constexpr (std::is_same_v<Value, Color>) {
-    give(key, L"#1020" + number);
-    return value && *value == rgbColor(0x10, 0x20, given);
-  } else if constexpr (std::is_arithmetic_v<Value>) {
-    give(key, number);
-    return value && *value == static_cast<Value>(30 + index);
-  } else {
-    ADD_FAILURE() << "no probe for a field with aliases of this kind";
-    return false;
-  }
+std::pair<std::wstring, std::wstring> Given(const std::wstring& key, int index,
+                                            const Value& fresh) {
+  const std::wstring n = std::to_wstring(30 + index);
+  if constexpr (std::is_same_v<Value, TextStyle>) return {key + L".pointSize", n};
+  if constexpr (std::is_same_v<Value, TintStates>)
+    return {key.empty() ? L"tintColor" : key + L".color", L"#0000" + n};
+  if constexpr (std::is_same_v<Value, ScrollAcceleration>) return {key + L".resetMs", n};
+  if constexpr (std::is_same_v<Value, bool>) return {key, fresh ? L"false" : L"true"};
+  if constexpr (std::is_same_v<Value, Color>) return {key, L"#1020" + n};
+  return {key, n};
+}
+
+template <typename Value>
+bool Holds(const Value& v, int index, const Value& fresh) {
+  const Color blue = rgbColor(0, 0, 0x30 + index);
+  if constexpr (std::is_same_v<Value, TextStyle>) return v.pointSize == 30 + index;
+  if constexpr (std::is_same_v<Value, TintStates>)
+    return v.normal.color == blue && v.disabled.color == blue;
+  if constexpr (std::is_same_v<Value, ScrollAcceleration>) return v.resetMs == 30 + index;
+  if constexpr (std::is_same_v<Value, bool>) return v != fresh;
+  if constexpr (std::is_same_v<Value, Color>) return v == rgbColor(0x10, 0x20, 0x30 + index);
+  if constexpr (std::is_arithmetic_v<Value>) return v == static_cast<Value>(30 + index);
+  return false;  // no probe for a field with aliases of this kind
 }
 
 // Each spelling of a field alone lands in that field; with all of them given, the last wins.
@@ -103,14 +92,14 @@ TEST(StyleFieldTables, EveryAliasReachesItsFieldAndTheLastWins) {
               const auto holds = [&](const PropertyTable& keys, int index) {
                 Record into;
                 parseStyle(StyleReader(keys, L"", context), into);
-                return Probe(before, index, nullptr, L"", &field_walk::resolve(into, target));
+                return Holds(field_walk::resolve(into, target), index, before);
               };
               PropertyTable all;
               for (int i = 0; i < int(spellings.size()); ++i) {
-                SCOPED_TRACE(typeid(Record).name() + (" " + Narrow(spellings[i])));
+                SCOPED_TRACE(testing::Message() << typeid(Record).name() << " " << spellings[i]);
                 PropertyTable one;
-                Probe(before, i, &one, spellings[i]);
-                Probe(before, i, &all, spellings[i]);
+                const auto [key, text] = Given(spellings[i], i, before);
+                one[normalizeKeyPath(key)] = all[normalizeKeyPath(key)] = text;
                 EXPECT_TRUE(holds(one, i));
               }
               EXPECT_TRUE(holds(all, int(spellings.size()) - 1))
@@ -124,8 +113,7 @@ TEST(StyleFieldTables, EveryAliasReachesItsFieldAndTheLastWins) {
 }
 
 // A nested record's main surfaces take the parent's shape key: a tab strip's `shape` shapes its
-// item button's states, a scroll bar's the track, thumb and both buttons; a card's the surface
-// only.
+// item button's states, a scroll bar's the track, thumb and both buttons.
 TEST(StyleRecordWalk, ShapeKeysReachNestedMainSurfacesAndTheSurfaceOwnShapeWins) {
   const Theme theme;
   const StyleContext context{&theme, L""};
@@ -142,9 +130,6 @@ TEST(StyleRecordWalk, ShapeKeysReachNestedMainSurfacesAndTheSurfaceOwnShapeWins)
               bar.decrementButton.hot.shape == ShapeKind::Hexagon &&
               bar.incrementButton.disabled.shape == ShapeKind::Hexagon);
   EXPECT_EQ(bar.thumb.normal.shape, ShapeKind::Capsule);  // the later, more special key
-  CardStyle card;
-  shapeStyle(card, ShapeKind::Bevel);
-  EXPECT_TRUE(card.surface.shape == ShapeKind::Bevel && card.header.shape != ShapeKind::Bevel);
 }
 
 }  // namespace
