@@ -27,8 +27,11 @@ Record Parsed(const std::wstring& json, Record record = Record()) {
 
 // Values in every form a skin writes them; what doesn't read keeps the value.
 TEST(SurfaceParser, WeightsColoursBytesAndInsets) {
-  const std::pair<const wchar_t*, int32_t> kWeights[] = {
-      {L"\"bold\"", 700}, {L"\" heavy \"", 900}, {L"\"fat\"", 123}, {L"\"550px\"", 550}};
+  const std::pair<const wchar_t*, int32_t> kWeights[] = {{L"\"bold\"", 700},
+                                                         {L"\" heavy \"", 900},
+                                                         {L"\"black\"", 900},
+                                                         {L"\"fat\"", 123},
+                                                         {L"\"550px\"", 550}};
   for (const auto& [json, weight] : kWeights) {
     TextStyle text;
     text.weight = 123;
