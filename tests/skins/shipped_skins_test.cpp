@@ -16,14 +16,6 @@
 namespace tessel {
 namespace {
 
-// Readability: every text colour against every colour of the surface it is drawn on, by the
-// relative-luminance contrast ratio. Body text needs 4.5:1, secondary text (muted,
-// placeholders, subtitles) 3:1, disabled text 2:1 so that it stays visible.
-struct ContrastProblem {
-  std::wstring where;  // "button primary hot", ...
-  double ratio = 0, minimum = 0;
-};
-
 double Luminance(Color c) {
   const auto linear = [](uint32_t channel) {
     const double v = channel / 255.0;
@@ -32,30 +24,31 @@ double Luminance(Color c) {
   return 0.2126 * linear(redOf(c)) + 0.7152 * linear(greenOf(c)) + 0.0722 * linear(blueOf(c));
 }
 
-// The colours text may sit on: the fill and, with a gradient, its stops.
-std::vector<Color> Backdrop(const SurfaceStyle& surface, const SurfaceStyle& parent) {
-  if (!surface.drawFill) return Backdrop(parent, parent);
-  std::vector<Color> colors{surface.fill};
-  if (surface.useGradient)
-    colors.insert(colors.end(), {surface.gradientStart, surface.gradientEnd});
-  if (surface.useGradient && surface.useGradientMid) colors.push_back(surface.gradientMid);
-  return colors;
-}
-
-constexpr double kBody = 4.5, kSecondary = 3.0, kDisabled = 2.0;
-
 double ContrastRatio(Color a, Color b) {
   const double la = Luminance(a), lb = Luminance(b);
   return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
-std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
-  std::vector<ContrastProblem> problems;
+constexpr double kBody = 4.5, kSecondary = 3.0, kDisabled = 2.0;
+
+// Readability: every text colour against every colour it may sit on (the fill and, with a
+// gradient, its stops; without a fill, the surface beneath), by the relative-luminance contrast
+// ratio: body text 4.5:1, secondary text 3:1, disabled text 2:1. Then button states that look
+// alike. Empty when all is well.
+std::string Problems(const StyleSheet& sheet) {
+  std::ostringstream report;
   const auto text = [&](const std::wstring& where, Color color, const SurfaceStyle& surface,
                         double minimum = kBody, const SurfaceStyle* parent = nullptr) {
-    for (Color backdrop : Backdrop(surface, parent ? *parent : sheet.window().surface)) {
-      const double ratio = ContrastRatio(color, backdrop);
-      if (ratio + 1e-9 < minimum) return problems.push_back({where, ratio, minimum});
+    const SurfaceStyle& s = surface.drawFill ? surface : parent ? *parent : sheet.window().surface;
+    std::vector<Color> backdrop{s.fill};
+    if (s.useGradient) backdrop.insert(backdrop.end(), {s.gradientStart, s.gradientEnd});
+    if (s.useGradient && s.useGradientMid) backdrop.push_back(s.gradientMid);
+    for (Color under : backdrop) {
+      const double ratio = ContrastRatio(color, under);
+      if (ratio + 1e-9 < minimum) {
+        report << "\n  " << Utf8FromWide(where) << ": " << ratio << " < " << minimum;
+        return;
+      }
     }
   };
   const auto buttonText = [&](const std::wstring& where, const ButtonStyle& b) {
@@ -76,8 +69,17 @@ std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
     text(L"card " + id + L" body", body, card.surface);
     text(L"card " + id + L" subtitle", card.subtitleText.color, card.surface, kSecondary);
   }
-  for (const auto& [id, button] : sheet.buttons.all())
+  for (const auto& [id, button] : sheet.buttons.all()) {
     buttonText(L"button " + id, button);
+    const ControlStates& b = button.surface;
+    const SurfaceStyle* s[] = {&b.normal, &b.hot, &b.pressed, &b.disabled};
+    // Colours only: a material's strength alone is too subtle to tell states apart.
+    for (int i = 0; i < 4; ++i)
+      for (int j = i + 1; j < 4; ++j)
+        if (s[i]->fill == s[j]->fill && s[i]->border == s[j]->border &&
+            s[i]->gradientEnd == s[j]->gradientEnd && s[i]->drawFill == s[j]->drawFill)
+          report << "\n  button " << Utf8FromWide(id) << ": states " << i << j << " look alike";
+  }
   for (const auto& [id, chrome] : sheet.chromeTitleBars.all())
     text(L"chrome " + id + L" title", chrome.titleText.color, chrome.surface);
   for (const auto& [id, chip] : sheet.statusChips.all())
@@ -135,59 +137,28 @@ std::vector<ContrastProblem> FindContrastProblems(const StyleSheet& sheet) {
     buttonText(L"tab " + id, tabs.itemButton);
   for (const auto& [id, date] : sheet.dateInputs.all())
     text(L"date input " + id, date.text.color, date.surface.normal);
-  return problems;
-}
-
-// Button ids whose normal, hot, pressed and disabled surfaces are not all different.
-std::vector<std::wstring> FindIndistinctButtonStates(const StyleSheet& sheet) {
-  std::vector<std::wstring> ids;
-  for (const auto& [id, button] : sheet.buttons.all()) {
-    const SurfaceStyle* s[] = {&button.surface.normal, &button.surface.hot, &button.surface.pressed,
-                               &button.surface.disabled};
-    bool distinct = true;
-    // Colours only: a material's strength alone is too subtle to tell states apart.
-    for (int i = 0; i < 4; ++i)
-      for (int j = i + 1; j < 4; ++j)
-        distinct = distinct &&
-                   !(s[i]->fill == s[j]->fill && s[i]->border == s[j]->border &&
-                     s[i]->gradientEnd == s[j]->gradientEnd && s[i]->drawFill == s[j]->drawFill);
-    if (!distinct) ids.push_back(id);
-  }
-  return ids;
+  return report.str();
 }
 
 // Every style id the application asks for, with the kind that asks; active and idle chips
 // must tell protection apart at a glance.
 TEST(ShippedSkins, ApplicationVariantsResolveInTheTacticalSkin) {
-  std::istringstream variants(
-      "statuschip:stayhold-active statuschip:stayhold-idle checkbox:stayhold-option "
-      "button:stayhold-tray-action button:stayhold-primary button:stayhold-secondary "
-      "popup:stayhold-notice popup:stayhold-error popup:stayhold-setup "
-      "popup:stayhold-setup-installed chrometitlebar:stayhold-chrome card:stayhold-card "
-      "selectbox:stayhold-select textinput:stayhold-input tablelist:stayhold-table "
-      "scrollbar:stayhold-scroll");
   const SkinDefinition& skin = *ShippedSkin(L"stayhold-tactical-3d");
-  for (std::string variant; variants >> variant;) {
+  for (const std::wstring variant :
+       {L"statuschip:stayhold-active", L"statuschip:stayhold-idle", L"checkbox:stayhold-option",
+        L"button:stayhold-tray-action", L"button:stayhold-primary", L"button:stayhold-secondary",
+        L"popup:stayhold-notice", L"popup:stayhold-error", L"popup:stayhold-setup",
+        L"popup:stayhold-setup-installed", L"chrometitlebar:stayhold-chrome", L"card:stayhold-card",
+        L"selectbox:stayhold-select", L"textinput:stayhold-input", L"tablelist:stayhold-table",
+        L"scrollbar:stayhold-scroll"}) {
     const size_t colon = variant.find(':');
-    const std::wstring type(variant.begin(), variant.begin() + colon),
-        id = normalizeKey(std::wstring(variant.begin() + colon + 1, variant.end()));
     EXPECT_TRUE(std::any_of(skin.overrides.begin(), skin.overrides.end(), [&](const auto& o) {
-      return o.type == type && o.id == id;
-    })) << variant;
+      return o.type == variant.substr(0, colon) && o.id == normalizeKey(variant.substr(colon + 1));
+    })) << Utf8FromWide(variant);
   }
   const StyleSheet sheet(skin);
   EXPECT_NE(sheet.statusChips.get(L"stayhold-active").badge.fill,
             sheet.statusChips.get(L"stayhold-idle").badge.fill);
-}
-
-std::string Problems(const StyleSheet& sheet) {
-  std::ostringstream report;
-  for (const ContrastProblem& problem : FindContrastProblems(sheet))
-    report << "\n  " << Utf8FromWide(problem.where) << ": " << problem.ratio << " < "
-           << problem.minimum;
-  for (const std::wstring& id : FindIndistinctButtonStates(sheet))
-    report << "\n  button states not distinct: " << Utf8FromWide(id);
-  return report.str();
 }
 
 // Every shipped skin, and the builders alone with the default and the fallback theme.

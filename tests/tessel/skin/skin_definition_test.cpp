@@ -63,9 +63,6 @@ TEST(ParseMaterialProfile, PresetsKindsAndClamps) {
   const MaterialProfile zula = profile(L"\"surface\":\"zula\"");
   EXPECT_TRUE(zula.control == MaterialKind::Granite && zula.finish == Finish::Polished &&
               zula.strength == 150 && zula.tint == findMaterialPreset(L"granite")->tint);
-  const MaterialProfile glass = profile(L"\"preset\":7,\"surface\":\"glass\",\"accent\":\"ruby\"");
-  EXPECT_TRUE(glass.enabled && glass.control == MaterialKind::Glass &&
-              glass.accent == MaterialKind::Gemstone && glass.tint == rgbColor(0x12, 0x34, 0x56));
   const MaterialProfile strong =
       profile(L"\"material\":\"metal\",\"strength\":300,\"ao\":-4,\"scale\":900");
   EXPECT_EQ((std::vector{strong.strength, strong.ambientOcclusion, strong.scale}),

@@ -40,21 +40,11 @@ TEST(StyleSheet, BasesPrecedenceTypesAndAliases) {
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"glass\",\"strength\":100},\"shapes\":{\"panel\":"
            L"\"octagon\"},\"styles\":{\"panel\":{\"default\":{\"shape\":\"hexagon\",\"surface\":{"
-           L"\"materialStrength\":5,\"fill\":\"#010101\"}}},\"button\":{\"primary\":{\"surface\":{"
-           L"\"fill\":\"#0A0B0C\"}}}},\"variants\":{\"panel\":{\"default\":{\"surface\":{\"fill\":"
-           L"\"#020202\"}}},\"button\":{\"stayhold-primary\":{\"base\":\"primary\",\"shape\":"
-           L"\"capsule\"}}}"));
+           L"\"materialStrength\":5,\"fill\":\"#010101\"}}}},\"variants\":{\"panel\":{\"default\":{"
+           L"\"surface\":{\"fill\":\"#020202\"}}}}"));
   const SurfaceStyle& panel = sheet.panels.get(L"default").surface;
   EXPECT_TRUE(panel.shape == ShapeKind::Hexagon && panel.materialStrength == 5 &&
               panel.fill == rgbColor(2, 2, 2));
-  const SurfaceStyle& raised = sheet.panels.get(L"raised").surface;
-  EXPECT_TRUE(raised.shape == ShapeKind::Octagon && raised.material == MaterialKind::Glass);
-  const ButtonStyle& variant = sheet.buttons.get(L"stayhold-primary");
-  const ButtonStyle& primary = sheet.buttons.get(L"primary");
-  EXPECT_TRUE(variant.surface.hot.shape == ShapeKind::Capsule &&
-              primary.surface.hot.shape != ShapeKind::Capsule);
-  EXPECT_EQ(variant.surface.normal.fill, rgbColor(0x0A, 0x0B, 0x0C));
-  EXPECT_TRUE(variant.surface.hot.fill == primary.surface.hot.fill && variant.text == primary.text);
 }
 
 #define STATES(map, member) \
@@ -80,10 +70,9 @@ TEST(StyleSheet, StateKeysLandOnTheirStateAlone) {
       {L"listbox", L"selectedRowHot", STATES(listBoxes, selectedRow), &CS::hot},
   };
   for (const auto& c : kCases) {
-    const std::wstring type = c.type, key = c.key;
-    SCOPED_TRACE(std::string(key.begin(), key.end()));
-    const StyleSheet sheet(
-        Skin(L",\"styles\":{\"" + type + L"\":{\"x\":{\"" + key + L"\":{\"fill\":\"#0A0B0C\"}}}}"));
+    SCOPED_TRACE(testing::Message() << c.key);
+    const StyleSheet sheet(Skin(std::wstring(L",\"styles\":{\"") + c.type + L"\":{\"x\":{\"" +
+                                c.key + L"\":{\"fill\":\"#0A0B0C\"}}}}"));
     const ControlStates& states = c.states(sheet);
     for (auto state : {&CS::normal, &CS::hot, &CS::pressed, &CS::disabled, &CS::active})
       EXPECT_EQ((states.*state).fill == rgbColor(0x0A, 0x0B, 0x0C), state == c.state);
@@ -94,13 +83,11 @@ TEST(StyleSheet, StateKeysLandOnTheirStateAlone) {
 // skin's surface slot never shines above the skin's own strength (120).
 void ExpectStatesOrdered(const ControlStates& s, const std::string& what) {
   const SurfaceStyle* const order[] = {&s.hot, &s.normal, &s.pressed, &s.disabled};
-  for (size_t i = 0; i < std::size(order); ++i) {
-    for (size_t j = i + 1; j < std::size(order); ++j) {
+  for (size_t i = 0; i < 4; ++i)
+    for (size_t j = i + 1; j < 4; ++j)
       if (order[i]->material != MaterialKind::None && order[j]->material != MaterialKind::None) {
         EXPECT_GT(order[i]->materialStrength, order[j]->materialStrength) << what << i << j;
       }
-    }
-  }
 }
 
 template <typename Record>
@@ -114,14 +101,14 @@ void ExpectMaterialOrder(Record record, const std::string& what) {
     }
     field_walk::withValue(record, field, [&](auto& value) {
       using Value = std::remove_reference_t<decltype(value)>;
-      if constexpr (std::is_same_v<Value, ControlStates>) {
+      if constexpr (std::is_same_v<Value, ControlStates>)
         ExpectStatesOrdered(value, what);
-      } else if constexpr (StyleRecord<Value>) {
+      else if constexpr (StyleRecord<Value>)
         ExpectMaterialOrder(value, what + " nested");
-      } else if constexpr (std::is_same_v<Value, SurfaceStyle>) {
-        if (field.material.slot == &MaterialProfile::surface) {
-          EXPECT_LE(value.materialStrength, 120) << what;
-        }
+      else if constexpr (std::is_same_v<Value, SurfaceStyle>) {
+        EXPECT_TRUE(field.material.slot != &MaterialProfile::surface ||
+                    value.materialStrength <= 120)
+            << what;
       }
     });
   }
@@ -133,25 +120,16 @@ TEST(StyleSheet, ShapeRolesMaterialSlotsAndMaterialStrengthFollowsTheStates) {
   const StyleSheet sheet(
       Skin(L",\"materials\":{\"surface\":\"paper\",\"control\":\"rubber\",\"accent\":"
            L"\"gloss\",\"strength\":120},\"shapes\":{\"button\":{\"primary\":\"pill\"},"
-           L"\"table\":{\"header\":\"bevel\"},\"scrollbar\":{\"thumbThickness\":7,"
-           L"\"showButtons\":true}}"));
+           L"\"scrollbar\":{\"thumbThickness\":7,\"showButtons\":true}}"));
   const auto shape = [&](const wchar_t* id) { return sheet.buttons.get(id).surface.pressed.shape; };
   EXPECT_TRUE(shape(L"primary") == ShapeKind::Capsule && shape(L"danger") == ShapeKind::Capsule &&
               shape(L"default") != ShapeKind::Capsule);
   EXPECT_FALSE(sheet.buttons.get(L"primary").hitShape.present);
-  const TableListStyle& table = sheet.tableLists.get(L"default");
-  EXPECT_TRUE(table.header.shape == ShapeKind::Bevel && table.row.shape != ShapeKind::Bevel);
   const ScrollBarStyle& bar = sheet.selectBoxes.get(L"default").scrollBar;
   EXPECT_TRUE(bar.thumbThickness == 7 && bar.showButtons && bar.buttonExtent > 0);
-  const CheckBoxStyle& box = sheet.checkBoxes.get(L"default");
-  EXPECT_EQ(box.unchecked.pressed.material, MaterialKind::Rubber);
-  EXPECT_EQ(box.checked.pressed.material, MaterialKind::Gloss);
-  EXPECT_EQ(sheet.popups.get(L"default").primaryAction.surface.hot.material, MaterialKind::Gloss);
   const SurfaceStyle& glassy = sheet.panels.get(L"glass").surface;
   EXPECT_TRUE(glassy.material == MaterialKind::FrostedGlass && glassy.materialStrength == 124);
   EXPECT_EQ(sheet.panels.get(L"raised").surface.materialStrength, 112);
-  const StyleSheet glass(Skin(L",\"materials\":{\"surface\":\"glass\"}"));
-  EXPECT_EQ(glass.panels.get(L"glass").surface.material, MaterialKind::Glass);
   const auto each = [&](auto... maps) {
     const auto one = [](const auto& map) {
       for (const auto& [id, record] : map.all())

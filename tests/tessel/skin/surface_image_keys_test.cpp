@@ -19,6 +19,7 @@ TEST(SurfaceImageKeys, ImagesMasksAndTheGeometryTheySet) {
   using G = GeometryMode;
   const std::wstring fixtures = SourceFile("tests/tessel/paint/fixtures").wstring();
   const std::wstring absolute = L"{\"image\": \"" + fixtures + L"/rgb_2x1.pam\"}";
+  const Theme theme;
   const struct {
     const wchar_t* json;
     int imageWidth, maskWidth;  // 0: none
@@ -40,20 +41,17 @@ TEST(SurfaceImageKeys, ImagesMasksAndTheGeometryTheySet) {
   for (const auto& c : kCases) {
     SCOPED_TRACE(std::string(c.json, c.json + std::wcslen(c.json)));
     JsonValue value;
-    ASSERT_TRUE(parseJsonText(c.json, value));
     PropertyTable table;
+    ASSERT_TRUE(parseJsonText(c.json, value));
     flattenProperties(value, L"", table);
-    const Theme theme;
     SurfaceStyle surface;
     surface.fill = rgbColor(1, 2, 3);
     surface.geometryMode = c.start;
     parseSurfaceStyle(StyleReader(table, L"", StyleContext{&theme, c.folder ? c.folder : fixtures}),
                       surface);
-    EXPECT_EQ(surface.image.width, c.imageWidth);
-    EXPECT_EQ(surface.mask.width, c.maskWidth);
-    EXPECT_EQ(surface.geometryMode, c.mode);
-    EXPECT_EQ(surface.useSkinAlphaHitTest, c.imageWidth != 0);
-    EXPECT_EQ(surface.fill, rgbColor(1, 2, 3));
+    EXPECT_TRUE(surface.image.width == c.imageWidth && surface.mask.width == c.maskWidth &&
+                surface.geometryMode == c.mode && surface.fill == rgbColor(1, 2, 3) &&
+                surface.useSkinAlphaHitTest == (c.imageWidth != 0));
   }
 }
 
