@@ -1,5 +1,5 @@
-// The notices as the user meets them: a skinned dialog that a key, the title bar's close or the
-// popup's own close button ends, with the answer each gives.
+// The exit question as the user meets it: a skinned dialog that a key or the title bar's close
+// ends, with the answer each gives.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -43,18 +43,6 @@ TEST(NoticeWin32, EnterConfirmsTheExitClosingTheWindowOrThePopupMeansNo) {
     NoticeDriver driver(L"Exit Stayhold", act);
     EXPECT_EQ(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr), confirmed);
   }
-}
-
-TEST(NoticeWin32, AnErrorNoticeIsTheLargerWindow) {
-  RECT client{};
-  NoticeDriver driver(L"Setup failed", [&client](HWND hwnd) {
-    GetClientRect(hwnd, &client);
-    Key(hwnd, VK_RETURN);
-  });
-  ShowInstallerNotice(GetModuleHandleW(nullptr), L"Setup failed", L"Details of the failure", true);
-  ASSERT_TRUE(driver.found);
-  EXPECT_EQ(client.right, 760);
-  EXPECT_EQ(client.bottom, 430);
 }
 
 }  // namespace
