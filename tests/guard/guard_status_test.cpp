@@ -68,10 +68,12 @@ TEST(EvaluateGuardStatus, FirstStoredMatchGivesTheLabelAlsoThroughYesterday) {
 
 TEST(EvaluateGuardStatus, ActiveIndexIsClampedButUnnamedProfilesShowTheStoredNumber) {
   StayholdConfig config;
-  config.profiles = {BehaviorProfile{L"First", {Window(Wednesday, 0, 0)}},
+  config.profiles = {BehaviorProfile{L" First\t", {Window(Wednesday, 0, 0)}},
                      BehaviorProfile{L"  ", {}}, BehaviorProfile{L"", {}}};
-  const std::tuple<int32_t, const wchar_t*, bool> cases[] = {
-      {0, L"First", false}, {7, L"Profile 8", true}, {-3, L"First", false}};
+  const std::tuple<int32_t, const wchar_t*, bool> cases[] = {{0, L"First", false},
+                                                             {7, L"Profile 8", true},
+                                                             {-3, L"First", false},
+                                                             {2, L"Profile 3", true}};
   for (const auto& [stored_index, name, blocking] : cases) {
     config.active_profile_index = stored_index;
     const GuardStatus status = EvaluateGuardStatusAt(config, At(Wed, 12, 0));

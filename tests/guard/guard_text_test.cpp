@@ -15,13 +15,6 @@ TEST(FormatMinutes, PadsAndClamps) {
     EXPECT_EQ(FormatMinutes(minutes), text) << minutes;
 }
 
-TEST(ProfileDisplayName, TrimsOrFallsBackToNumberedName) {
-  const std::tuple<const wchar_t*, int, const wchar_t*> cases[] = {
-      {L"  Night \t", 4, L"Night"}, {L" \t\n", 7, L"Profile 8"}, {L"", -5, L"Profile 1"}};
-  for (const auto& [name, index, shown] : cases)
-    EXPECT_EQ(ProfileDisplayName(BehaviorProfile{name, {}}, index), shown) << index;
-}
-
 TEST(DayName, ClampsDaysAndFollowsTheLanguage) {
   EXPECT_EQ(DayName(-4), L"Monday");
   EXPECT_EQ(DayName(12), L"Sunday");

@@ -39,19 +39,11 @@ TEST(ApplyWindowsUpdatePolicy, FailuresStopAtAKeyButNotAtAValue) {
   }
 }
 
-TEST(LogWindowsUpdatePolicyStatus, FullLines) {
-  const std::wstring head = L"windows update manual-restart policy status: ";
+// update_policy_scenario.sh compares whole lines; the largest value is left to this test.
+TEST(LogWindowsUpdatePolicyStatus, TheLargestValueInFull) {
   FakeRegistry().keys[kUpdate] = {{L"SetComplianceDeadline", {true, 4294967295u}}};
-  FakeRegistry().keys[kAu] = {{L"NoAutoUpdate", {true, 0}},
-                              {L"AUOptions", {true, 3}},
-                              {L"NoAutoRebootWithLoggedOnUsers", {true, 1}},
-                              {L"AlwaysAutoRebootAtScheduledTime", {false, 1}}};
   LogWindowsUpdatePolicyStatus();
-  EXPECT_EQ(Fake().log,
-            (std::vector<std::wstring>{
-                head + L"not-strict NoAutoUpdate=0 AUOptions=3 NoAutoRebootWithLoggedOnUsers=1 "
-                       L"AlwaysAutoRebootAtScheduledTime=<missing> "
-                       L"SetComplianceDeadline=4294967295"}));
+  EXPECT_TRUE(Fake().log.at(0).ends_with(L" SetComplianceDeadline=4294967295"));
 }
 
 TEST(LogWindowsUpdatePolicyStatus, StrictOnlyWhileNothingAllowsAForcedRestart) {

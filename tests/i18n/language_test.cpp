@@ -26,29 +26,19 @@ TEST(NormalizeLanguageSetting, FirstMatchInTableOrder) {
     EXPECT_EQ(NormalizeLanguageSetting(in), out) << in;
 }
 
-TEST(CurrentLanguageIndex, SettingThenWindowsThenEnglish) {
-  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
-      {L"cs-CZ", L"en-US", L"cs"},
-      {L"auto", L"de-CH", L"de"},
-      {L"xx", L"ja-JP", L"ja"},
-      {L"auto", L"xx-YY", L"en"}};
-  for (const auto& [setting, windows, column] : cases) {
+// The column and the tag: the setting, else Windows' language, else English.
+TEST(CurrentLanguage, SettingThenWindowsThenEnglish) {
+  const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
+      {L"cs-CZ", L"en-US", L"cs", L"cs-CZ"},
+      {L"auto", L"de-CH", L"de", L"de-DE"},  // Windows' tag by family, too
+      {L"auto", L"xx-YY", L"en", L"auto"},
+      {L"auto", L"", L"en", L"en-US"}};
+  for (const auto& [setting, windows, column, tag] : cases) {
     UseLanguageSetting(setting);
     Fake().ui_locale = windows;
     EXPECT_EQ(CurrentLanguageIndex(), LanguageColumnIndex(column)) << setting << " " << windows;
+    EXPECT_EQ(EffectiveLanguageTag(), tag) << setting << " " << windows;
   }
-}
-
-TEST(EffectiveLanguageTag, TheSettingElseWindowsElseEnUs) {
-  UseLanguageSetting(L"auto");
-  Fake().ui_locale = L"";
-  EXPECT_EQ(EffectiveLanguageTag(), L"en-US");
-  Fake().ui_locale = L"pt-PT";
-  EXPECT_EQ(EffectiveLanguageTag(), L"pt-PT");
-  Fake().ui_locale = L"xx-YY";
-  EXPECT_EQ(EffectiveLanguageTag(), L"auto");
-  UseLanguageSetting(L"es");
-  EXPECT_EQ(EffectiveLanguageTag(), L"es-MX");
 }
 
 static std::wstring reader_setting;

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <functional>
 #include <thread>
 
@@ -16,16 +15,12 @@ namespace {
 struct NoticeDriver {
   NoticeDriver(const wchar_t* title, std::function<void(HWND)> act)
       : thread([this, title, act] {
-          for (int i = 0; i < 400 && !found; ++i) {
-            if (HWND hwnd = FindWindowW(L"TesselDesignWindow", title)) {
-              found = true;
-              act(hwnd);
-            }
+          HWND hwnd = nullptr;
+          for (int i = 0; i < 400 && !(hwnd = FindWindowW(L"TesselDesignWindow", title)); ++i)
             Sleep(25);
-          }
+          if (hwnd) act(hwnd);
         }) {}
   ~NoticeDriver() { thread.join(); }
-  std::atomic<bool> found{false};
   std::thread thread;
 };
 

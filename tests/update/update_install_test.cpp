@@ -131,8 +131,6 @@ TEST(UpdateInstallHelpers, PercentProgressParametersAndPath) {
   EXPECT_EQ(services.state->progress, 0);
   EXPECT_EQ(SilentSetupParameters(L""),
             L"--install --quiet --preserve-options --restart-app --settings");
-  EXPECT_EQ(DownloadedSetupPath(L"C:\\Temp", L"1.0.120 beta"),
-            L"C:\\Temp\\StayholdSetup-1.0.120 beta.exe");
 }
 
 }  // namespace
