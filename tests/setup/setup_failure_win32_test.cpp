@@ -8,6 +8,7 @@
 
 #include "guard/machine_registry.h"
 #include "guard/paths.h"
+#include "setup/msi_driver_win32.h"
 #include "setup/setup_actions.h"
 #include "setup/setup_failure.h"
 
