@@ -15,13 +15,6 @@ TEST(FormatMinutes, PadsAndClamps) {
     EXPECT_EQ(FormatMinutes(minutes), text) << minutes;
 }
 
-TEST(ProfileDisplayName, TrimsOrFallsBackToNumberedName) {
-  const std::tuple<const wchar_t*, int, const wchar_t*> cases[] = {
-      {L"  Night \t", 4, L"Night"}, {L" \t\n", 7, L"Profile 8"}, {L"", -5, L"Profile 1"}};
-  for (const auto& [name, index, shown] : cases)
-    EXPECT_EQ(ProfileDisplayName(BehaviorProfile{name, {}}, index), shown) << index;
-}
-
 TEST(DayName, ClampsDaysAndFollowsTheLanguage) {
   EXPECT_EQ(DayName(-4), L"Monday");
   EXPECT_EQ(DayName(12), L"Sunday");
@@ -42,14 +35,9 @@ TEST(FormatWindowLabel, MarksOvernightWindows) {
     EXPECT_EQ(FormatWindowLabel(window), label);
 }
 
-TEST(FormatGuardStatus, OneLinePerState) {
+// The plain states' lines are table texts; the window's label is what is composed.
+TEST(FormatGuardStatus, TheWindowLabelJoinsTheLine) {
   const std::tuple<GuardStatus, const wchar_t*, const wchar_t*> cases[] = {
-      {{false, false, false, L"P", L""},
-       L"Status: protection is turned off in the tray menu",
-       L"Stayhold: guard is off"},
-      {{true, true, false, L"P", L""},
-       L"Status: blocking planned restarts",
-       L"Stayhold: blocking planned restarts"},
       {{true, false, true, L"P", L"Friday 13:00-17:00"},
        L"Status: a scheduled restart window is active (Friday 13:00-17:00)",
        L"Stayhold: scheduled allow - Friday 13:00-17:00"},

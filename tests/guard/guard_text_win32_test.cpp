@@ -5,10 +5,8 @@
 #include "guard/guard_text.h"
 
 TEST(DayName, ComesFromTheLocale) {
-  const std::tuple<const wchar_t*, int, const wchar_t*> cases[] = {{L"en-US", 0, L"Monday"},
-                                                                   {L"en-US", 6, L"Sunday"},
-                                                                   {L"cs-CZ", 4, L"p\u00E1tek"},
-                                                                   {L"de-DE", 2, L"Mittwoch"}};
+  const std::tuple<const wchar_t*, int, const wchar_t*> cases[] = {
+      {L"en-US", 0, L"Monday"}, {L"en-US", 6, L"Sunday"}, {L"cs-CZ", 4, L"p\u00E1tek"}};
   for (const auto& [language, day, name] : cases) {
     AppConfig().language = language;
     EXPECT_EQ(DayName(day), name) << language << " " << day;

@@ -10,7 +10,6 @@ TEST(NormalizeInstallFolder, OneCanonicalForm) {
       {L"  C:/  ", L"C:\\"},
       {L"C:\\Apps\\.\\x\\..\\Stayhold\\\\", L"C:\\Apps\\Stayhold"},
       {L"relative\\dir", L"C:\\Work\\relative\\dir"},
-      {L"\\rooted", L"C:\\rooted"},
       {L"\\\\nas\\apps\\Stayhold\\", L"\\\\nas\\apps\\Stayhold"},
       {L" \t ", L""},
       {L" odd?\\x\\..\\y\\ ", L"odd?\\y"}};  // no absolute path: on with the trimmed text

@@ -13,9 +13,6 @@
 namespace {
 
 TEST(AppendLog, RecreatesTheFolderAndAppendsUtf8LinesAlsoWhileTheFileIsOpen) {
-  wchar_t local[MAX_PATH] = {};
-  ASSERT_GT(GetEnvironmentVariableW(L"LOCALAPPDATA", local, MAX_PATH), 0u);
-  EXPECT_EQ(DataDirectory(), std::wstring(local) + L"\\Stayhold");
   std::error_code ignored;
   std::filesystem::remove_all(std::filesystem::path(LogDirectory()), ignored);
   AppendLog(L"first line");
@@ -37,8 +34,6 @@ TEST(AppendLog, RecreatesTheFolderAndAppendsUtf8LinesAlsoWhileTheFileIsOpen) {
                       first),
             std::string::npos);
   EXPECT_NE(text.find("  while shared\n"), std::string::npos);
-  EXPECT_EQ(text.find('\r'), std::string::npos);
-  EXPECT_NE(text.compare(0, 3, "\xEF\xBB\xBF"), 0);  // no byte order mark
 }
 
 }  // namespace

@@ -28,8 +28,7 @@ TEST(ApplyWindowsUpdatePolicy, FailuresStopAtAKeyButNotAtAValue) {
       {kAu, -2, L"", L"windows update policy failed: create AU key error=-2", 7},
       {L"", 0, L"ConfigureDeadlineGracePeriod",
        L"windows update manual-restart policy failed while writing values", 13},
-      {L"", 0, L"AUOptions", L"windows update manual-restart policy failed while writing values",
-       13}};
+  };
   for (const auto& [failing_key, error, failing_value, line, calls] : cases) {
     ResetFakePlatform();
     if (!failing_key.empty()) FakeRegistry().create_errors[failing_key] = error;
@@ -40,23 +39,11 @@ TEST(ApplyWindowsUpdatePolicy, FailuresStopAtAKeyButNotAtAValue) {
   }
 }
 
-TEST(LogWindowsUpdatePolicyStatus, FullLines) {
-  const std::wstring head = L"windows update manual-restart policy status: ";
-  LogWindowsUpdatePolicyStatus();
+// update_policy_scenario.sh compares whole lines; the largest value is left to this test.
+TEST(LogWindowsUpdatePolicyStatus, TheLargestValueInFull) {
   FakeRegistry().keys[kUpdate] = {{L"SetComplianceDeadline", {true, 4294967295u}}};
-  FakeRegistry().keys[kAu] = {{L"NoAutoUpdate", {true, 0}},
-                              {L"AUOptions", {true, 3}},
-                              {L"NoAutoRebootWithLoggedOnUsers", {true, 1}},
-                              {L"AlwaysAutoRebootAtScheduledTime", {false, 1}}};
   LogWindowsUpdatePolicyStatus();
-  EXPECT_EQ(Fake().log,
-            (std::vector<std::wstring>{
-                head + L"not-strict NoAutoUpdate=<missing> AUOptions=<missing> "
-                       L"NoAutoRebootWithLoggedOnUsers=<missing> "
-                       L"AlwaysAutoRebootAtScheduledTime=<missing> SetComplianceDeadline=<missing>",
-                head + L"not-strict NoAutoUpdate=0 AUOptions=3 NoAutoRebootWithLoggedOnUsers=1 "
-                       L"AlwaysAutoRebootAtScheduledTime=<missing> "
-                       L"SetComplianceDeadline=4294967295"}));
+  EXPECT_TRUE(Fake().log.at(0).ends_with(L" SetComplianceDeadline=4294967295"));
 }
 
 TEST(LogWindowsUpdatePolicyStatus, StrictOnlyWhileNothingAllowsAForcedRestart) {
@@ -68,8 +55,6 @@ TEST(LogWindowsUpdatePolicyStatus, StrictOnlyWhileNothingAllowsAForcedRestart) {
   const std::tuple<const char*, const wchar_t*, FakeMachineRegistry::Value, bool> cases[] = {
       {"as written", L"SetComplianceDeadline", {true, 0}, true},
       {"a compliance deadline", L"SetComplianceDeadline", {true, 1}, false},
-      {"AUOptions 4", L"AUOptions", {true, 4}, false},
-      {"NoAutoUpdate as text counts as absent", L"NoAutoUpdate", {false, 1}, true},
       {"automatic update switched off", L"NoAutoUpdate", {true, 1}, false},
       {"reboot with users signed in", L"NoAutoRebootWithLoggedOnUsers", {true, 0}, false},
       {"forced restart at the scheduled time",

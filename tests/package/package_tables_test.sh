@@ -22,14 +22,10 @@ expect LaunchCondition '^NOT WIX_DOWNGRADE_DETECTED\tA newer version of Stayhold
 for shortcut in StartMenuShortcut StartupShortcut DesktopShortcut; do
   expect MsiShortcutProperty "^Aumid$shortcut\t$shortcut\t\{9F4C2855-9F79-4B39-A8D0-E1D42DE1D5F3\}, 5\tMarlowen\.Stayhold\.App\$" "AppUserModelID of $shortcut"
 done
-# Every image and skin file in the one feature, so that a repair restores it.
-n=0
-for base in check_updates update_available chrome_close chrome_maximize chrome_minimize chrome_restore; do
-  for state in "" _hot _pressed _disabled; do
-    n=$((n + 1))
-    expect File "^Asset$n\tcmpAsset$n\t([^\t|]*\|)?stayhold_$base$state\.png\t[1-9]" "stayhold_$base$state.png"
-    expect FeatureComponents "^MainFeature\tcmpAsset$n$" "image component $n in the feature"
-  done
+# Every image and skin file in the one feature, so that a repair restores it (setup_scenario.sh
+# counts the installed images).
+for n in $(seq 24); do
+  expect FeatureComponents "^MainFeature\tcmpAsset$n$" "image component $n in the feature"
 done
 for n in 1 2 3 4 5; do
   expect FeatureComponents "^MainFeature\tcmpSkin$n$" "skin component $n in the feature"

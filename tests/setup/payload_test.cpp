@@ -39,8 +39,7 @@ TEST(PackageCachePath, VersionAndFileName) {
   EXPECT_EQ(PayloadFileName(L"a/b\\c.json"), L"c.json");
 }
 
-TEST(SetupSkinCacheFolder, LocalAppDataElseTemporaryFolder) {
-  EXPECT_EQ(SetupSkinCacheFolder(), L"C:\\Users\\ada\\AppData\\Local\\Stayhold\\setup-skin-cache");
+TEST(SetupSkinCacheFolder, TheTemporaryFolderWithoutLocalAppData) {
   Fake().known_folders.erase(KnownFolder::LocalAppData);
   EXPECT_EQ(SetupSkinCacheFolder(),
             L"C:\\Users\\ada\\AppData\\Local\\Temp\\Stayhold-setup-skin-cache");

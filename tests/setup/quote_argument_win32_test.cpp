@@ -1,4 +1,5 @@
-// Quoting checked against the platform's own argument parser.
+// Quoting checked against the platform's own argument parser, the reference for every rule of
+// backslashes and quotes.
 #include <windows.h>
 #include <shellapi.h>
 
@@ -9,7 +10,8 @@
 TEST(QuoteArgument, CommandLineToArgvWReadsBackEveryArgument) {
   for (const std::wstring text :
        {L"", L"plain", L"C:\\Program Files\\Stayhold", L"C:\\X\\", L"say \"hi\"", L"a\\\\\"b",
-        L"\\\\nas\\", L"tab\there", L"\"\"", L"trailing\\\\", L"\u010Cesk\u00E1 slo\u017Eka"}) {
+        L"\\\\nas\\", L"tab\there", L"\"\"\"", L"trailing\\\\", L"\\", L"x\\\\y\\", L"ends\"",
+        L"\u010Cesk\u00E1 slo\u017Eka"}) {
     const std::wstring line = L"setup.exe " + QuoteArgument(text) + L" --next";
     int count = 0;
     LPWSTR* argv = CommandLineToArgvW(line.c_str(), &count);

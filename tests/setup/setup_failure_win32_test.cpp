@@ -1,5 +1,5 @@
-// The failure texts of the setup as the user reads them, from real failing steps: a setup
-// without its package, a Windows Installer run that fails, and a policy step that is refused.
+// The failure texts of the setup as the user reads them, from real failing steps that the
+// shipped setup cannot reach: a setup without its package and a policy step that is refused.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -30,20 +30,6 @@ TEST(SetupFailureText, ASetupWithoutItsPackage) {
             L"Install failed.\n\nFailed step: extracting the embedded MSI package\nSetup does not "
             L"contain an MSI package. Please download setup again.\nApplication log: " +
                 LogFilePath());
-}
-
-TEST(SetupFailureText, AFailingWindowsInstallerRun) {
-  ClearSetupFailure();
-  unsigned long code = 0;
-  EXPECT_FALSE(RunMsiexec(L"install", L"/i \"C:\\no\\such\\package.msi\" /qn /norestart", code));
-  const SetupFailure& failure = LastSetupFailure();
-  ASSERT_TRUE(failure.has_msi_exit);
-  EXPECT_EQ(failure.msi_exit, code);
-  EXPECT_NE(code, 0u);
-  EXPECT_NE(failure.msi_log_path.find(L"\\logs\\msi-install-"), std::wstring::npos);
-  EXPECT_TRUE(AppendSetupFailureDetails(L"Install failed.")
-                  .ends_with(L"\n\nMSI log: " + failure.msi_log_path + L"\nApplication log: " +
-                             LogFilePath()));
 }
 
 TEST(SetupFailureText, ARefusedPolicyStepFailsTheInstall) {

@@ -1,10 +1,9 @@
-// The notices as the user meets them: a skinned dialog that a key, the title bar's close or the
-// popup's own close button ends, with the answer each gives.
+// The exit question as the user meets it: a skinned dialog that a key or the title bar's close
+// ends, with the answer each gives.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <functional>
 #include <thread>
 
@@ -16,16 +15,12 @@ namespace {
 struct NoticeDriver {
   NoticeDriver(const wchar_t* title, std::function<void(HWND)> act)
       : thread([this, title, act] {
-          for (int i = 0; i < 400 && !found; ++i) {
-            if (HWND hwnd = FindWindowW(L"TesselDesignWindow", title)) {
-              found = true;
-              act(hwnd);
-            }
+          HWND hwnd = nullptr;
+          for (int i = 0; i < 400 && !(hwnd = FindWindowW(L"TesselDesignWindow", title)); ++i)
             Sleep(25);
-          }
+          if (hwnd) act(hwnd);
         }) {}
   ~NoticeDriver() { thread.join(); }
-  std::atomic<bool> found{false};
   std::thread thread;
 };
 
@@ -43,18 +38,6 @@ TEST(NoticeWin32, EnterConfirmsTheExitClosingTheWindowOrThePopupMeansNo) {
     NoticeDriver driver(L"Exit Stayhold", act);
     EXPECT_EQ(ConfirmStayholdExit(GetModuleHandleW(nullptr), nullptr), confirmed);
   }
-}
-
-TEST(NoticeWin32, AnErrorNoticeIsTheLargerWindow) {
-  RECT client{};
-  NoticeDriver driver(L"Setup failed", [&client](HWND hwnd) {
-    GetClientRect(hwnd, &client);
-    Key(hwnd, VK_RETURN);
-  });
-  ShowInstallerNotice(GetModuleHandleW(nullptr), L"Setup failed", L"Details of the failure", true);
-  ASSERT_TRUE(driver.found);
-  EXPECT_EQ(client.right, 760);
-  EXPECT_EQ(client.bottom, 430);
 }
 
 }  // namespace

@@ -2,17 +2,9 @@
 
 #include <gtest/gtest.h>
 
-UpdateManifest Manifest(const wchar_t* version) {
-  UpdateManifest manifest;
-  manifest.version = version;
-  return manifest;
-}
-
-TEST(TrayTooltipText, AKnownUpdateReplacesTheStatusAndNamesItsVersionWhenKnown) {
-  const GuardStatus blocking{true, true, false, L"P", L""};
-  EXPECT_EQ(TrayTooltipText(blocking, Manifest(L"2.0")),
-            L"Update available 2.0 - open tray menu and choose Update.");
-  EXPECT_EQ(FormatUpdateTooltip(Manifest(L"")),
+// The hidden window's Wine test sees the tooltip with a version.
+TEST(FormatUpdateTooltip, WithoutAVersionNamesNone) {
+  EXPECT_EQ(FormatUpdateTooltip(UpdateManifest{}),
             L"Update available - open tray menu and choose Update.");
 }
 

@@ -8,15 +8,13 @@
 TEST(ReadManifestString, TextSearchesWithTheirEffects) {
   const std::tuple<const char*, const wchar_t*, const wchar_t*, std::optional<std::wstring>>
       cases[] = {
-          {"plain", L"{\"version\": \"1.2.3\"}", L"version", L"1.2.3"},
           {"first occurrence wins", L"{\"a\":\"1\",\"a\":\"2\"}", L"a", L"1"},
           {"escapes", L"{\"c\":\"x\\ny\\tz\\r\\\"q\\\\\\/\"}", L"c", L"x\ny\tz\r\"q\\/"},
           {"\\u stays literal", L"{\"c\":\"\\u0041\"}", L"c", L"u0041"},
           {"no colon after the key", L"{\"version\" \"1\"}", L"version", std::nullopt},
           {"unterminated value", L"{\"version\":\"1.2", L"version", std::nullopt},
           {"a number runs on to the next quote", L"{\"v\": 1, \"x\": \"y\"}", L"v", L"x"},
-          {"key only as a substring does not count", L"{\"my_v\":\"9\"}", L"v", std::nullopt},
-          {"whitespace and lines around the colon", L"{\"v\"\n :\n  \"x y\"}", L"v", L"x y"}};
+          {"key only as a substring does not count", L"{\"my_v\":\"9\"}", L"v", std::nullopt}};
   for (const auto& [what, text, key, value] : cases)
     EXPECT_EQ(ReadManifestString(text, key), value) << what;
 }
@@ -27,7 +25,6 @@ TEST(ReadManifestArray, BracketDepthIgnoringStringsAndSplitIntoTopLevelObjects) 
   EXPECT_EQ(ReadManifestArray(L"{\"history\": [1, 2", L"history"), std::nullopt);
   // The first '[' behind the colon counts even inside a string value: a text search.
   EXPECT_EQ(ReadManifestArray(L"{\"history\": \"[a]\"}", L"history"), L"[a]");
-  EXPECT_EQ(ReadManifestArray(L"{}", L"history"), std::nullopt);
   EXPECT_EQ(SplitManifestObjects(L"[{\"a\":\"}\"}, 5, {\"b\":{\"c\":1}}, {]"),
             (std::vector<std::wstring>{L"{\"a\":\"}\"}", L"{\"b\":{\"c\":1}}"}));
 }
@@ -58,7 +55,6 @@ TEST(ParseUpdateManifest, HistoryEffects) {
       {"latest already listed (1.0 equals 1.0.0)",
        L"{\"version\":\"1.0\",\"changes\":\"x\",\"history\":[{\"version\":\"1.0.0\"}]}", L"1.0", 1},
       {"latest without a note is not appended", L"{\"version\":\"3\"}", L"3", 0},
-      {"latest with a note is appended", L"{\"version\":\"3\",\"changes\":\"x\"}", L"3", 1},
       {"no version, nothing appended", L"{\"changes\":\"x\"}", L"", 0}};
   for (const auto& [what, text, version, history] : cases) {
     const UpdateManifest m = ParseUpdateManifest(text, L"");
@@ -70,9 +66,10 @@ TEST(ParseUpdateManifest, HistoryEffects) {
 TEST(LocalizedChangeNote, CzechEnglishThenNeutral) {
   // Language, the neutral, Czech and English notes, and the one shown.
   const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*>
-      cases[] = {{L"cs-CZ", L"n", L"c", L"e", L"c"}, {L"cs-CZ", L"n", L"", L"e", L"n"},
-                 {L"en-GB", L"n", L"c", L"e", L"e"}, {L"de-DE", L"n", L"c", L"e", L"n"},
-                 {L"de-DE", L"", L"c", L"e", L"e"},  {L"de-DE", L"", L"c", L"", L"c"}};
+      cases[] = {{L"cs-CZ", L"n", L"c", L"e", L"c"},
+                 {L"cs-CZ", L"n", L"", L"e", L"n"},
+                 {L"en-GB", L"n", L"c", L"e", L"e"},
+                 {L"de-DE", L"", L"c", L"", L"c"}};
   for (const auto& [language, neutral, cs, en, shown] : cases) {
     AppConfig().language = language;
     EXPECT_EQ(LocalizedChangeNote(neutral, cs, en), shown)
@@ -90,7 +87,4 @@ TEST(BuildChangeNotesSinceInstalled, NewestFirstBetweenInstalledAndLatest) {
   EXPECT_EQ(BuildChangeNotesSinceInstalled(m), L"1.0.130\nlatest\n\n1.0.120\nmiddle");
   m.history.clear();
   EXPECT_EQ(BuildChangeNotesSinceInstalled(m), L"top");
-  m.version.clear();
-  m.history = {{L"9.0", L"any newer", L"", L""}};
-  EXPECT_EQ(BuildChangeNotesSinceInstalled(m), L"9.0\nany newer");
 }

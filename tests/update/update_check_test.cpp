@@ -12,7 +12,6 @@ TEST(CheckForUpdate, OutcomesAndTheirLogLines) {
       {L"{\"version\":\"1.0.120\"}", L"", L"ok: current=1.0.112 latest=1.0.120 available"},
       {L"{\"version\":\"1.0.112\",\"sha256\":\"FF\"}", L"",
        L"ok: current=1.0.112 latest=1.0.112 current"},
-      {L"{\"version\":\"1.0.99\"}", L"", L"ok: current=1.0.112 latest=1.0.99 current"},
       {L"", L"Update manifest does not contain a version.", L"failed: missing version"},
       {nullptr, http_404, L"failed: " + http_404}};
   for (const auto& [body, error, log] : cases) {
