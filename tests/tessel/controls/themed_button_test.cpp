@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
-
-#include "tessel/skin/style_sheet.h"
 #include "tests/support/golden_image.h"
 #include "tests/tessel/controls/control_fixtures.h"
 
@@ -41,23 +38,6 @@ TEST(ThemedButton, StatePriorityPicksSurfaceAndTextColour) {
   }
 }
 
-TEST(ThemedButton, AClickEmitsTheCommandThenCallsOnClickedUnlessHandledOrDisabled) {
-  ThemedButton button(L"dialog-ok", Rect{0, 0, 60, 24}, L"OK", ButtonStyle{});
-  std::vector<std::wstring> seen;
-  bool veto = false;
-  button.onCommand([&](CommandEvent& event) {
-    seen.push_back(event.command + L"=" + event.value);
-    event.handled = veto;
-  });
-  button.setOnClicked([&] { seen.push_back(L"clicked"); });
-  button.clicked();
-  veto = true;
-  button.clicked();
-  button.setEnabled(false);
-  button.clicked();
-  EXPECT_EQ(seen, (std::vector<std::wstring>{L"dialog-ok=OK", L"clicked", L"dialog-ok=OK"}));
-}
-
 TEST(ThemedButton, TextIsPaddedAndEndsWithAnEllipsisWhenLongAndSetsTheMinimumWidth) {
   // 6 pixels a character less the last gap; 40 - 2 * 2 = 36 pixels hold "ABC..." (35).
   ThemedButton longText = Button(L"ABCDEFGHIJ", {0, 0, 40, 20});
@@ -74,14 +54,6 @@ TEST(ThemedButton, TextIsPaddedAndEndsWithAnEllipsisWhenLongAndSetsTheMinimumWid
     EXPECT_EQ(button.minimumSize(), (Size{width, 20})) << width;
   }
   EXPECT_EQ(Button(L"OK", {0, 0, 100, 20}).minimumSize(), (Size{100, 20}));
-}
-
-TEST(ThemedButton, ASkinNeedsTheId) {
-  ThemedButton button = Button(L"OK");
-  const StyleSheet sheet{Theme{}};
-  EXPECT_FALSE(applyStyleId(sheet, button, L"no-such-style"));
-  EXPECT_TRUE(applyStyleId(sheet, button, L"primary"));
-  EXPECT_EQ(button.style().surface.normal.fill, sheet.buttons.get(L"primary").surface.normal.fill);
 }
 
 }  // namespace

@@ -2,16 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include "tessel/skin/style_sheet.h"
+#include "tessel/core/window.h"
 #include "tests/tessel/core/test_controls.h"
 
 namespace tessel {
 namespace {
 
 TEST(Control, SetBoundsRepaintsBothPlacesAndBecomesTheNextDesign) {
-  Panel root(L"root", Rect{0, 0, 200, 100});
-  RecordingHost host(&root);
-  root.attachToWindow(&host);
+  RecordingPlatform host;
+  Window window;
+  window.sized(Size{200, 100}, false);
+  window.setPlatform(&host);
+  Panel& root = window.rootPanel();
   Box* box = root.add<Box>(L"box", Rect{10, 10, 50, 20});
   box->setBounds(Rect{10, 10, 50, 20});
   EXPECT_TRUE(host.rects.empty());
@@ -54,23 +56,6 @@ TEST(Control, HiddenDisabledAndCollapsedControls) {
   EXPECT_EQ(collapsed->minimumSize(), (Size{0, 0}));
   PaintedImage(row, {200, 100});
   EXPECT_EQ((std::pair{hidden->paints, collapsed->paints}), (std::pair{0, 1}));
-}
-
-TEST(Control, FindByIdAndApplySkinTreeWalkChildrenAndAttachedChildren) {
-  Panel root(L"root", Rect{0, 0, 100, 100});
-  Panel* a = root.add<Panel>(L"a", Rect{0, 0, 50, 50});
-  Box* deep = a->add<Box>(L"deep", Rect{0, 0, 5, 5});
-  Box* plain = root.add<Box>(L"plain", Rect{60, 0, 10, 10});
-  auto* underBox =
-      static_cast<Box*>(plain->addAttachedChild(std::make_unique<Box>(L"under-box", Rect{})));
-  a->addAttachedChild(std::make_unique<Box>(L"under-panel", Rect{}));
-  EXPECT_EQ(findById(root, L"deep"), deep);
-  EXPECT_EQ(findById(root, L"under-box"), underBox);  // a plain control's children are these
-  EXPECT_EQ(findById(root, L"under-panel"), nullptr);
-  deep->setStyleId(L"primary");
-  underBox->setStyleId(L"x");
-  EXPECT_EQ(applySkinTree(StyleSheet{Theme()}, root), 2);
-  EXPECT_EQ(plain->skins, 0);
 }
 
 TEST(Control, TooltipCombinesClippedTextAndDescription) {

@@ -37,16 +37,8 @@ struct DialogWin32 : ::testing::Test {
   Win32WindowPlatform owner{ownerWindow};
 };
 
-TEST_F(DialogWin32, ClosedWithoutAResultEndsWithFive) {
-  DialogWindow dialog;
-  Win32WindowPlatform native(dialog);
-  ASSERT_TRUE(createDialog(dialog, native, Options(owner.hwnd())));
-  PostMessageW(native.hwnd(), WM_CLOSE, 0, 0);
-  EXPECT_EQ(runDialog(dialog, native), kDialogDestroyed);
-}
-
-TEST_F(DialogWin32, AClickEndsTheDialogFromInsideItsDispatch) {
-  DialogWindow dialog;
+TEST_F(DialogWin32, EndedByAClickInsideItsDispatchOrClosedWithoutAResult) {
+  DialogWindow dialog, closed;
   bool ownerDisabledMeanwhile = false;
   dialog.rootPanel().add<ActionBox>([&] {
     ownerDisabledMeanwhile = !IsWindowEnabled(owner.hwnd());
@@ -59,6 +51,10 @@ TEST_F(DialogWin32, AClickEndsTheDialogFromInsideItsDispatch) {
   EXPECT_TRUE(ownerDisabledMeanwhile);
   EXPECT_TRUE(IsWindowEnabled(owner.hwnd()));
   EXPECT_FALSE(IsWindow(native.hwnd()));
+  Win32WindowPlatform closedNative(closed);
+  ASSERT_TRUE(createDialog(closed, closedNative, Options(owner.hwnd())));
+  PostMessageW(closedNative.hwnd(), WM_CLOSE, 0, 0);
+  EXPECT_EQ(runDialog(closed, closedNative), kDialogDestroyed);
 }
 
 TEST_F(DialogWin32, QuitEndsEveryNestedLoop) {

@@ -1,35 +1,18 @@
-// Small stand-ins for toolkit tests: a window host and a window platform that record what is
-// asked of them, a box that paints a solid colour and counts the calls it gets, a panel with a
-// shaped content, and pixel reading.
+// Small stand-ins for toolkit tests: a window platform that records what is asked of it, a box
+// that paints a solid colour and counts the calls it gets, a shaped panel, and pixel reading.
 #pragma once
 
 #include <vector>
 
 #include "tessel/core/panel.h"
-#include "tessel/core/window_host.h"
 #include "tessel/core/window_platform.h"
 #include "tessel/paint/image_canvas.h"
 
 namespace tessel {
 
-class RecordingHost : public WindowHost {
- public:
-  explicit RecordingHost(Control* root = nullptr) : root_(root) {}
-  void invalidateRect(const Rect& rect) override { rects.push_back(rect); }
-  void invalidateAll() override {}
-  void updateRegion() override {}
-  Size clientSize() const override { return Size{400, 300}; }
-  Control* rootControl() override { return root_; }
-
-  std::vector<Rect> rects;
-
- private:
-  Control* root_;
-};
-
 class RecordingPlatform : public WindowPlatform {
  public:
-  void invalidate(const Rect&) override {}
+  void invalidate(const Rect& rect) override { rects.push_back(rect); }
   void invalidateAll() override {}
   void setCapture() override { ++captures; }
   void releaseCapture() override { ++releases; }
@@ -44,6 +27,7 @@ class RecordingPlatform : public WindowPlatform {
   }
 
   int captures = 0, releases = 0, leaveRequests = 0;
+  std::vector<Rect> rects;
   uint64_t clock = 1000;
   bool held = false;
   std::vector<Rect> region;
@@ -64,10 +48,9 @@ class Box : public Control {
     ++ticks;
     return true;
   }
-  bool applySkin(const StyleSheet&) override { return ++skins > 0; }
 
   Color color;
-  int paints = 0, layouts = 0, ticks = 0, skins = 0;
+  int paints = 0, layouts = 0, ticks = 0;
 };
 
 // A panel whose content may be shaped, as a skin's outline shapes it.

@@ -13,34 +13,21 @@ namespace {
 
 using Log = std::vector<std::string>;
 
-// Logs what the window asks of it as "<id>.<what>"; a panel takes every wheel turn.
+// Logs what the window asks of it as "<id>.<what>".
 template <typename Base>
 class Probe : public Base {
  public:
   Probe(std::wstring id, Rect bounds, Log& log) : Base(std::move(id), bounds), log_(log) {}
-  void setHot(bool hot) override {
-    Base::setHot(hot);
-    note(hot ? "hot" : "cold");
-  }
-  void setPressed(bool pressed) override {
-    Base::setPressed(pressed);
-    note(pressed ? "pressed" : "released");
-  }
+  void setHot(bool hot) override { Base::setHot(note(hot ? "hot" : "cold", hot)); }
+  void setPressed(bool on) override { Base::setPressed(note(on ? "pressed" : "released", on)); }
   void mouseDown() override { note("down@" + std::to_string(this->mousePosition().x)); }
   void mouseDragged() override { note("dragged@" + std::to_string(this->mousePosition().x)); }
   void clicked() override { note("clicked"); }
   void focusLost() override { note("focusLost"); }
-  bool mouseWheel(int32_t delta) override {
-    return note("wheel " + std::to_string(delta), this->isContainer());
-  }
-  bool keyDown(uint32_t key, bool, bool, bool, NativeWindow) override {
-    return note("key " + std::to_string(key), keys);
-  }
   bool dismissOverlays(Point point, Point origin) override {
     if (this->isContainer()) note("dismiss");
     return Base::dismissOverlays(point, origin);
   }
-  bool keys = true;
 
  private:
   bool note(const std::string& what, bool result = false) {
@@ -64,12 +51,6 @@ class WindowTest : public ::testing::Test {
     window.sized(Size{400, 300}, false);
     log.clear();
   }
-  Image Paint() {
-    Image frame = Image::blank(400, 300);
-    ImageCanvas canvas(frame);
-    window.paintFrame(canvas, Rect{0, 0, 400, 300});
-    return frame;
-  }
   // Shows the button's interactive tooltip after a timer tick, painted; returns where it is.
   Rect ShowTooltip() {
     button->setTooltip(L"MORE ABOUT THIS");
@@ -77,7 +58,9 @@ class WindowTest : public ::testing::Test {
     window.setTooltipMode(1);
     window.pointerMoved(kOnButton, 0);
     window.timer();
-    Paint();
+    Image frame = Image::blank(400, 300);
+    ImageCanvas canvas(frame);
+    window.paintFrame(canvas, Rect{0, 0, 400, 300});
     return window.tooltipRect();
   }
 
@@ -117,16 +100,6 @@ TEST_F(WindowTest, APressCapturesAndClicksOnReleaseOverTheSameControlOnly) {
   EXPECT_EQ(log, (Log{"panel.dismiss", "other.focusLost"}));
   window.buttonPressed(Point{190, 100}, 1);  // the bare panel takes the press and the focus
   EXPECT_EQ(window.focusedControl(), panel);
-}
-
-TEST_F(WindowTest, TheWheelBubblesUpAndKeysGoToTheFocusedControl) {
-  EXPECT_TRUE(window.wheel(kOnButton, 120, false, 0));
-  EXPECT_FALSE(window.keyPressed(13, false, false, false, nullptr));  // nobody focused
-  window.setFocusedControl(button);
-  EXPECT_TRUE(window.keyPressed(13, false, false, false, nullptr));
-  button->keys = false;
-  EXPECT_FALSE(window.keyPressed(27, false, false, false, nullptr));
-  EXPECT_EQ(log, (Log{"button.wheel 120", "panel.wheel 120", "button.key 13", "button.key 27"}));
 }
 
 TEST_F(WindowTest, TheTooltipOpensOnATimerTickAfterTheDelayFromTheLastRealMove) {

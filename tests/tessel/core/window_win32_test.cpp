@@ -5,13 +5,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 #include "tessel/paint/surface_painter.h"
+#include "tests/tessel/controls/control_fixtures.h"
 
 namespace tessel {
 namespace {
@@ -101,14 +100,11 @@ TEST(WindowWin32, CustomFrameSizeLimitsAndTheSkinsRegion) {
 }
 
 TEST(WindowWin32, PaintsThroughTheBackBufferWithGdiText) {
-  SurfaceStyle surface;
-  surface.fill = rgbColor(20, 40, 60);
-  surface.drawBorder = false;
-  TextStyle text;
-  text.color = rgbColor(250, 200, 40);  // red and blue swapped would show
+  TextStyle text = PlainText(rgbColor(250, 200, 40));  // red and blue swapped would show
   text.pointSize = 14;
   Window window;
-  window.rootPanel().add<SurfaceBox>(Rect{20, 20, 280, 110}, surface, text);
+  window.rootPanel().add<SurfaceBox>(Rect{20, 20, 280, 110}, FlatSurface(rgbColor(20, 40, 60)),
+                                     text);
   Win32WindowPlatform native(window);
   const HWND hwnd = Create(native, {320, 200});
   ASSERT_NE(hwnd, nullptr);
@@ -116,25 +112,22 @@ TEST(WindowWin32, PaintsThroughTheBackBufferWithGdiText) {
   HDC memory = CreateCompatibleDC(nullptr);
   BITMAPINFO info{};
   info.bmiHeader = {sizeof(info.bmiHeader), 320, -200, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  uint8_t* bits = nullptr;
-  HBITMAP copy =
-      CreateDIBSection(memory, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&bits), nullptr, 0);
-  HGDIOBJ previous = SelectObject(memory, copy);
+  void* bits = nullptr;
+  HGDIOBJ previous =
+      SelectObject(memory, CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
   SendMessageW(hwnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory), PRF_CLIENT);
-  GdiFlush();
-  std::vector<Color> pixels(320 * 200);
-  for (size_t i = 0; i < pixels.size(); ++i)
-    pixels[i] = rgbColor(bits[i * 4 + 2], bits[i * 4 + 1], bits[i * 4]);
-  SelectObject(memory, previous);
-  DeleteObject(copy);
+  EXPECT_EQ(GetPixel(memory, 25, 25), RGB(20, 40, 60));
+  int textPixels = 0;
+  for (int y = 0; y < 200; ++y)
+    for (int x = 0; x < 320; ++x) {
+      const COLORREF c = GetPixel(memory, x, y);
+      textPixels += std::abs(GetRValue(c) - 250) + std::abs(GetGValue(c) - 200) +
+                        std::abs(GetBValue(c) - 40) <
+                    60;
+    }
+  EXPECT_GT(textPixels, 40);
+  DeleteObject(SelectObject(memory, previous));
   DeleteDC(memory);
-  EXPECT_EQ(pixels[25 * 320 + 25], surface.fill);
-  const auto isText = [&](Color c) {
-    return std::abs(int(redOf(c)) - 250) + std::abs(int(greenOf(c)) - 200) +
-               std::abs(int(blueOf(c)) - 40) <
-           60;
-  };
-  EXPECT_GT(std::count_if(pixels.begin(), pixels.end(), isText), 40);
 }
 
 }  // namespace

@@ -107,5 +107,28 @@ TEST(FitToRegions, AShapedParentGivesSpansBandsAndHits) {
   EXPECT_EQ(parent.hitTest(Point{25, 65}, Point{}), moved);
 }
 
+const Color kRed = rgbColor(255, 0, 0);
+
+TEST(PanelPaint, ContentRegionsClipChildrenAndDeformedOnesAreSqueezedIn) {
+  for (int32_t mode : {kGeometryNone, kGeometryDeform}) {
+    ShapedPanel root(L"root", Rect{0, 0, 100, 100});
+    root.regions = {Rect{0, 0, 100, 50}, Rect{0, 50, 50, 50}};  // an L
+    auto box = std::make_unique<Box>(L"box", Rect{0, 0, 100, 100}, kRed);
+    box->setGeometryMode(mode);
+    auto* child = static_cast<Box*>(root.addChild(std::move(box)));
+    const Image image = PaintedImage(root, {100, 100});
+    EXPECT_EQ(PixelAt(image, 25, 75), kRed) << mode;
+    EXPECT_EQ(image.alphaAt(75, 75), 0) << mode;
+    EXPECT_EQ(child->paints, 1);
+  }
+  Panel root(L"root", Rect{0, 0, 200, 40});  // only children in the clip are painted
+  Box* left = root.add<Box>(L"left", Rect{0, 0, 20, 20}, kRed);
+  Image image = Image::blank(200, 40);
+  ImageCanvas canvas(image);
+  canvas.clipToRects({Rect{100, 0, 100, 40}});
+  root.paint(canvas, Point{});
+  EXPECT_EQ(left->paints, 0);
+}
+
 }  // namespace
 }  // namespace tessel
