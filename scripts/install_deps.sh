@@ -5,7 +5,7 @@ set -euo pipefail
 
 packages=(
   cmake ninja-build g++ make pkg-config python3
-  googletest libgtest-dev libbenchmark-dev libcairo2-dev zlib1g-dev
+  googletest libgtest-dev libbenchmark-dev libcairo2-dev libpng-dev
   g++-mingw-w64-x86-64-posix mingw-w64-tools binutils-mingw-w64-x86-64
   wine wine64 msitools wixl
   xvfb xdotool imagemagick x11-utils fonts-dejavu-core

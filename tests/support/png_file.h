@@ -1,6 +1,6 @@
 // PNG files of memory images, for people to look at and as golden images of whole skins: 8-bit,
-// un-premultiplied, RGB when every pixel is opaque, else RGBA, Paeth-filtered. The reader
-// takes back what the writer writes and premultiplies again, which is exact for opaque pixels.
+// un-premultiplied, RGB when every pixel is opaque, else RGBA. The reader premultiplies again,
+// which is exact for opaque pixels.
 #pragma once
 
 #include <filesystem>
@@ -8,5 +8,5 @@
 #include "tessel/style/image.h"
 
 bool WritePngImage(const std::filesystem::path& path, const tessel::Image& image);
-// False on a missing or damaged file or on a form the writer doesn't produce.
+// False on a missing or damaged file.
 bool ReadPngImage(const std::filesystem::path& path, tessel::Image& image);
