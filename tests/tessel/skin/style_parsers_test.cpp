@@ -14,7 +14,8 @@ Record Parsed(const std::wstring& json, Record record = Record()) {
   PropertyTable table;
   flattenProperties(value, L"", table);
   const Theme theme;
-  const StyleReader reader(table, L"", StyleContext{&theme, L""});
+  const StyleContext context{&theme, L""};  // the reader keeps a reference to it
+  const StyleReader reader(table, L"", context);
   if constexpr (std::is_same_v<Record, SurfaceStyle>) {
     parseSurfaceStyle(reader, record);
   } else if constexpr (std::is_same_v<Record, TextStyle>) {
