@@ -26,7 +26,8 @@ TEST(AppendLog, RecreatesTheFolderAndAppendsUtf8LinesAlsoWhileTheFileIsOpen) {
   std::stringstream read;
   read << std::ifstream(std::filesystem::path(LogFilePath()), std::ios::binary).rdbuf();
   const std::string text = read.str();
-  const size_t first = text.find("  first line\n");
+  EXPECT_NE(text.compare(0, 3, "\xEF\xBB\xBF"), 0);  // no byte order mark
+  const size_t first = text.find("  first line\n");  // and no carriage return
   ASSERT_NE(first, std::string::npos);
   // The second line follows the first.
   EXPECT_NE(text.find("  druh\xC3\xA1 \xC5\x99\xC3\xA1"

@@ -2,9 +2,26 @@
 
 #include <gtest/gtest.h>
 
-// guard_scenario.sh asks the running guard each flag alone and with the guard off; only the
-// combination of a sign-out with close-app is left to this table.
-TEST(SessionMayEnd, ASignOutPassesEvenWithCloseApp) {
-  EXPECT_TRUE(SessionMayEnd(true, kEndSessionLogoff | kEndSessionCloseApp));
-  EXPECT_FALSE(SessionMayEnd(true, kEndSessionCloseApp));
+namespace {
+
+TEST(SessionMayEnd, OnlyPlannedShutdownsAreRefusedWhileBlocking) {
+  const struct {
+    const char* what;
+    bool blocking;
+    uint32_t flags;
+    bool may_end;
+  } cases[] = {
+      {"not blocking: anything passes", false, 0, true},
+      {"not blocking, close-app", false, kEndSessionCloseApp, true},
+      {"plain shutdown or restart is refused", true, 0, false},
+      {"sign-out passes", true, kEndSessionLogoff, true},
+      {"critical shutdown passes", true, kEndSessionCritical, true},
+      {"sign-out with close-app passes", true, kEndSessionLogoff | kEndSessionCloseApp, true},
+      {"close-app alone is refused like a shutdown", true, kEndSessionCloseApp, false},
+      {"unknown bits are refused like a shutdown", true, 0x00000100, false},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(SessionMayEnd(c.blocking, c.flags), c.may_end) << c.what;
 }
+
+}  // namespace

@@ -55,6 +55,9 @@ TEST(LogWindowsUpdatePolicyStatus, StrictOnlyWhileNothingAllowsAForcedRestart) {
   const std::tuple<const char*, const wchar_t*, FakeMachineRegistry::Value, bool> cases[] = {
       {"as written", L"SetComplianceDeadline", {true, 0}, true},
       {"a compliance deadline", L"SetComplianceDeadline", {true, 1}, false},
+      {"AUOptions 4", L"AUOptions", {true, 4}, false},
+      // No deadline at all here, and a text value is no value: both leave the policy strict.
+      {"NoAutoUpdate as text counts as absent", L"NoAutoUpdate", {false, 1}, true},
       {"automatic update switched off", L"NoAutoUpdate", {true, 1}, false},
       {"reboot with users signed in", L"NoAutoRebootWithLoggedOnUsers", {true, 0}, false},
       {"forced restart at the scheduled time",

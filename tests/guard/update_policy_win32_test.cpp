@@ -14,4 +14,19 @@ TEST(WindowsUpdatePolicy, ApplyWritesEveryValueAndReadsBackStrict) {
   EXPECT_TRUE(IsStrictUpdatePolicy(ReadWindowsUpdatePolicy(SystemMachineRegistry())));
 }
 
+TEST(WindowsUpdatePolicy, TextValueCountsAsAbsent) {
+  ASSERT_TRUE(ApplyWindowsUpdatePolicy());
+  HKEY key = nullptr;
+  ASSERT_EQ(RegOpenKeyExW(HKEY_LOCAL_MACHINE, kWindowsUpdateAuPolicyKey, 0, KEY_SET_VALUE, &key),
+            ERROR_SUCCESS);
+  const wchar_t text[] = L"1";
+  RegSetValueExW(key, L"NoAutoUpdate", 0, REG_SZ, reinterpret_cast<const BYTE*>(text),
+                 sizeof(text));
+  RegCloseKey(key);
+  const UpdatePolicyReading reading = ReadWindowsUpdatePolicy(SystemMachineRegistry());
+  EXPECT_FALSE(reading.no_auto_update.has_value());
+  EXPECT_TRUE(IsStrictUpdatePolicy(reading));
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Policies\\Microsoft\\Windows\\WindowsUpdate");
+}
+
 }  // namespace

@@ -35,7 +35,7 @@ expect_config '[general]' 'guard_enabled=1' '[profiles]' 'count=1' 'active_index
   'windows_count=0'
 
 sleep 1
-# Which queries pass the Windows suite proves; here each refusal, and only a refusal, is logged.
+# Which flags pass, the native table proves; here each refusal, and only a refusal, is logged.
 expect_query 0 0 "plain shutdown"
 expect_query 0x80000000 1 "sign-out"
 expect_query 0x00000001 0 "close-app"
