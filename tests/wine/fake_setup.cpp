@@ -6,11 +6,11 @@
 #include <fstream>
 #include <string>
 
+#include "base/wide_text.h"
+
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR command_line, int) {
-  // A path converts its wide text to UTF-8 unchanged; nothing here is read as a file name.
-  const std::u8string text = std::filesystem::path(command_line).u8string();
   std::ofstream(std::filesystem::temp_directory_path() / "stayhold_fake_setup_args.txt",
                 std::ios::binary)
-      .write(reinterpret_cast<const char*>(text.data()), std::streamsize(text.size()));
+      << Utf8FromWide(command_line);
   return 0;
 }
