@@ -53,6 +53,8 @@ TEST(ChooseStartupRole, ChecksRunInTheirFixedOrder) {
       {L"--uninstall --repair", true, Repair},
       {L"--uninstall --quiet", true, Uninstall},
       // The application refuses every setup action, before anything else.
+      {L"--install", false, RefuseSetupAction},
+      {L"--uninstall", false, RefuseSetupAction},
       {L"--ensure-config --repair", false, RefuseSetupAction},
       {L"--settings", false, Guard}};
   for (const auto& [command_line, setup_build, role] : cases) {
